@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "Value.h"
+
+namespace gustline::wb {
+
+// The display text of a number in a number format: "General", "0", "0.00", "#,###",
+// "#,##0.00", "0.00E+00", "0%", sections split at ";", literal text in quotes.
+std::string FormatNumber(double number, std::string_view format);
+
+// The display text of any value: numbers by the format, texts as they are, "TRUE"/"FALSE",
+// error texts, and nothing for an empty cell.
+std::string DisplayText(const Value& value, std::string_view format);
+
+}  // namespace gustline::wb
