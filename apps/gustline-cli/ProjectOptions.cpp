@@ -1,0 +1,69 @@
+#include "ProjectOptions.h"
+
+#include <charconv>
+#include <filesystem>
+#include <iostream>
+
+#include "core/workbook/NamedCells.h"
+#include "core/workbook/Workbook.h"
+
+namespace gustline::cli {
+namespace {
+
+std::optional<double> ReadNumber(const std::string& text) {
+  double number = 0;
+  const char* end = text.data() + text.size();
+  auto [ptr, ec] = std::from_chars(text.data(), end, number);
+  if (ec != std::errc() || ptr != end || text.empty()) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>& args) {
+  ProjectOptions options;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string& arg = args[i];
+    if (arg == "--project" || arg == "--set") {
+      if (i + 1 >= args.size()) {
+        std::cerr << "gustline-cli: " << arg << " needs a value\n";
+        return std::nullopt;
+      }
+      const std::string& value = args[++i];
+      if (arg == "--project") {
+        options.projectPath = value;
+        continue;
+      }
+      const auto equals = value.find('=');
+      if (equals == std::string::npos || equals == 0) {
+        std::cerr << "gustline-cli: --set takes NAME=VALUE, not '" << value << "'\n";
+        return std::nullopt;
+      }
+      options.sets.emplace_back(value.substr(0, equals), value.substr(equals + 1));
+      continue;
+    }
+    options.rest.push_back(arg);
+  }
+  return options;
+}
+
+std::string ProgramFolder() {
+  std::error_code error;
+  const auto exe = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? std::string(".") : exe.parent_path().string();
+}
+
+std::unique_ptr<wb::Workbook> OpenProject(const ProjectOptions& options) {
+  auto project = std::make_unique<wb::Workbook>("WindData");
+  project->ReadWorkbook(options.projectPath.value_or(ProgramFolder() + "/workbooks/WindData.gwb"));
+  for (const auto& [name, value] : options.sets) {
+    if (const auto number = ReadNumber(value))
+      wb::WriteNamedNumber(*project, name, *number);
+    else
+      wb::WriteNamedText(*project, name, value);
+  }
+  project->Recalc();
+  return project;
+}
+
+}  // namespace gustline::cli
