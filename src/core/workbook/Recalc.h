@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace gustline::wb {
+
+class Workbook;
+
+// The calculation state of one book: whether its cached results are stale, and the order in
+// which its formula cells are evaluated, kept until a structural change.
+class RecalcState {
+ public:
+  // One formula cell: sheet index (0-based), row and column.
+  struct Item {
+    std::int32_t sheet;
+    std::int32_t row;
+    std::int32_t col;
+  };
+  // A run of items in the order: a single cell, or a strongly connected component.
+  struct Group {
+    std::uint32_t begin;
+    std::uint32_t end;
+    bool cyclic;
+  };
+
+  // Calculates every formula cell of the book once, in dependency order.
+  static void Run(Workbook& book);
+  // Builds the evaluation order of the book's formula cells.
+  static void BuildOrder(Workbook& book, RecalcState& state);
+
+  bool dirty = true;
+  bool busy = false;
+  bool orderValid = false;
+  std::uint64_t seenChangeCount = 0;
+  std::uint64_t orderGeneration = 0;
+  std::vector<Item> items;
+  std::vector<Group> groups;
+};
+
+}  // namespace gustline::wb
