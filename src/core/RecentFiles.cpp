@@ -1,0 +1,42 @@
+#include "core/RecentFiles.h"
+
+#include "core/Settings.h"
+
+namespace gustline {
+
+void RecentFiles::Load(Settings& settings) {
+  for (int i = 0; i < kCount; ++i) {
+    RecentEntry& entry = entries_[static_cast<std::size_t>(i)];
+    entry.caption = settings.GetSetting(RecentFileKey(i), i == 0 ? kEmptyRecentEntry : "");
+    if (!entry.caption.empty()) entry.visible = entry.enabled = true;
+  }
+  // Only the first entry is checked for the placeholder: a "(Empty)" that was pushed down
+  // the list by an open comes back enabled at the next start.
+  if (entries_[0].caption == kEmptyRecentEntry) {
+    entries_[0].visible = true;
+    entries_[0].enabled = false;
+  }
+}
+
+void RecentFiles::Save(Settings& settings) const {
+  for (int i = 0; i < kCount; ++i)
+    settings.SaveSetting(RecentFileKey(i), entries_[static_cast<std::size_t>(i)].caption);
+}
+
+void RecentFiles::Add(std::string_view name) {
+  std::size_t from = kCount - 1;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    if (entries_[i].caption == name) {
+      from = i;
+      break;
+    }
+  }
+  for (std::size_t i = from; i >= 1; --i) entries_[i].caption = entries_[i - 1].caption;
+  entries_[0].caption = std::string(name);
+  for (RecentEntry& entry : entries_) {
+    if (!entry.caption.empty()) entry.visible = entry.enabled = true;
+    if (entry.caption == kEmptyRecentEntry) entry.enabled = false;
+  }
+}
+
+}  // namespace gustline
