@@ -31,11 +31,15 @@ class Sheet {
   // The cell, created empty when needed. Row and column must be in range.
   Cell& At(int row, int col);
   void Erase(int row, int col);
+  // Removes every cell; layout, setup and view stay.
   void ClearAll();
 
   // The last row and column that hold a value or a formula; 0 on an empty sheet.
   int LastRow() const;
   int LastCol() const;
+  // The extent of the written cells, formats alone included.
+  int StoredRows() const { return static_cast<int>(rows_.size()); }
+  int StoredCols() const;
 
   // Visits every written cell in row-major order: fn(row, col, cell).
   template <typename Fn>

@@ -49,7 +49,12 @@ class Value {
 };
 
 // The shortest text that reads back to the same double: "17.428542112355654", "0.5", "1", "-0".
+// Plain decimals from 1e-5 up to 1e21; beyond, the exponent form "1e+21", "1.5e-07".
 std::string FormatShortest(double number);
+
+// The number a text reads as wholly, leading and trailing blanks aside: "1e3", "-0.5", ".5",
+// "+2". Texts such as "inf", "1e999" or "12 ft" are no numbers.
+std::optional<double> ReadNumber(std::string_view text);
 
 // A value as the command-line tools print it: numbers by FormatShortest, texts as they are,
 // "TRUE"/"FALSE", error texts, and an empty text for nothing.

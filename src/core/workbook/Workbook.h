@@ -10,6 +10,7 @@
 #include "CellAddress.h"
 #include "CellStyle.h"
 #include "DefinedNames.h"
+#include "Formula.h"
 #include "Sheet.h"
 #include "Value.h"
 
@@ -185,6 +186,10 @@ class Workbook {
  private:
   Sheet& Active() { return *sheets_[static_cast<std::size_t>(activeSheet_)]; }
   const Sheet& Active() const { return *sheets_[static_cast<std::size_t>(activeSheet_)]; }
+  FormulaHost HostOf(int row, int col) { return FormulaHost{this, activeSheet_, {row, col}}; }
+  // Puts a constant into a cell of the active sheet; an empty value clears the content and
+  // keeps the format. Writing the constant that is there already changes nothing.
+  void StoreConstant(int row, int col, Value value);
 
   std::uint64_t id_;
   std::string bookName_;
