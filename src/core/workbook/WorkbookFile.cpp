@@ -1,0 +1,41 @@
+#include <fstream>
+
+#include "AtomicFile.h"
+#include "FacilityError.h"
+#include "NativeFormat.h"
+#include "TextFormat.h"
+#include "Workbook.h"
+
+namespace gustline::wb {
+
+// Only the book's own format is read: a tab-delimited text or any other file is refused as
+// corrupt, so that a wrong file given as a project never replaces it.
+FileType Workbook::ReadWorkbook(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) throw FacilityError(errc::kFileOpen, "Cannot open the file " + path);
+  char head[64];
+  in.read(head, sizeof head);
+  if (!LooksNative(std::string_view(head, static_cast<std::size_t>(in.gcount()))))
+    throw FacilityError(errc::kFileCorrupt, path + " is not a workbook file");
+  in.clear();
+  in.seekg(0);
+  ReadNative(in, *this);
+  return FileType::Native;
+}
+
+void Workbook::WriteWorkbook(const std::string& path, FileType type) {
+  if (type != FileType::Native && type != FileType::Text)
+    throw FacilityError(errc::kFileType, "This file type cannot be written yet");
+  AtomicFile file(path);
+  if (type == FileType::Native)
+    WriteNative(*this, file.Stream());
+  else
+    WriteText(*this, file.Stream());
+  file.Commit();
+}
+
+// Every sheet keeps its selection, active cell and first row and column shown as part of the
+// book, and the native writer stores them; there is nothing more to take from a window.
+void Workbook::SaveWindowInfo() {}
+
+}  // namespace gustline::wb
