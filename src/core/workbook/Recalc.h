@@ -24,6 +24,8 @@ class RecalcState {
     bool cyclic;
   };
 
+  // The state of a book, made on first use.
+  static RecalcState& Of(Workbook& book);
   // Calculates every formula cell of the book once, in dependency order.
   static void Run(Workbook& book);
   // Builds the evaluation order of the book's formula cells.

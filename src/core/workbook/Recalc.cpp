@@ -1,0 +1,273 @@
+#include "Recalc.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <unordered_map>
+
+#include "BookRegistry.h"
+#include "FormulaAst.h"
+#include "Workbook.h"
+
+namespace gustline::wb {
+namespace {
+
+// Moves at every structural change of any book, which may redefine names that formulas use.
+std::uint64_t structureGeneration = 1;
+
+// Names that refer to names deeper than this are taken as circular.
+constexpr int kMaxNameDepth = 32;
+
+// The formula cells of one book, the edges from each to the formula cells it reads.
+class DependencyGraph {
+ public:
+  explicit DependencyGraph(Workbook& book) : book_(book) {
+    byColumn_.resize(static_cast<std::size_t>(book.SheetCount()));
+    for (int s = 0; s < book.SheetCount(); ++s) {
+      auto& columns = byColumn_[static_cast<std::size_t>(s)];
+      book.GetSheet(s + 1).ForEachCell([&](int row, int col, const Cell& cell) {
+        if (!cell.IsFormula()) return;
+        if (columns.size() <= static_cast<std::size_t>(col))
+          columns.resize(static_cast<std::size_t>(col) + 1);
+        columns[static_cast<std::size_t>(col)].push_back({row, static_cast<int>(nodes.size())});
+        nodes.push_back({s, row, col});
+      });
+    }
+    edgeStart.reserve(nodes.size() + 1);
+    for (const RecalcState::Item& item : nodes) {
+      edgeStart.push_back(static_cast<int>(edges.size()));
+      const Cell* cell = book.GetSheet(item.sheet + 1).Find(item.row, item.col);
+      Collect(*cell->formula, FormulaHost{&book, item.sheet, CellAddress{item.row, item.col}}, 0,
+              edges);
+    }
+    edgeStart.push_back(static_cast<int>(edges.size()));
+  }
+
+  std::vector<RecalcState::Item> nodes;
+  std::vector<int> edgeStart;
+  std::vector<int> edges;
+
+ private:
+  struct Entry {
+    int row;
+    int node;
+  };
+
+  void Collect(const Formula& formula, const FormulaHost& host, int depth, std::vector<int>& out) {
+    for (const RefTarget& ref : formula.refs) AddArea(ref, host, out);
+    if (depth >= kMaxNameDepth) return;
+    for (const NameTarget& name : formula.names) {
+      if (name.sheet.kind == SheetTarget::Kind::Link ||
+          name.sheet.kind == SheetTarget::Kind::Unbound || name.slot < 0 ||
+          name.slot >= book_.Names().SlotCount())
+        continue;
+      auto memo = nameEdges_.find(name.slot);
+      if (memo == nameEdges_.end()) {
+        std::vector<int> found;
+        const DefinedNames::Entry& entry = book_.Names().At(name.slot);
+        if (entry.defined && entry.formula) {
+          Collect(*entry.formula, FormulaHost{&book_, 0, CellAddress{1, 1}}, depth + 1, found);
+        }
+        memo = nameEdges_.emplace(name.slot, std::move(found)).first;
+      }
+      out.insert(out.end(), memo->second.begin(), memo->second.end());
+    }
+  }
+
+  void AddArea(const RefTarget& ref, const FormulaHost& host, std::vector<int>& out) const {
+    int sheet = -1;
+    if (ref.sheet.kind == SheetTarget::Kind::Host) sheet = host.sheet;
+    if (ref.sheet.kind == SheetTarget::Kind::Local) sheet = book_.SheetIndexById(ref.sheet.sheetId);
+    if (sheet < 0 || sheet >= static_cast<int>(byColumn_.size())) return;
+    const auto rowOf = [&](const RefCorner& c) { return c.rowAbs ? c.row : host.cell.row + c.row; };
+    const auto colOf = [&](const RefCorner& c) { return c.colAbs ? c.col : host.cell.col + c.col; };
+    const int firstRow = std::min(rowOf(ref.first), rowOf(ref.last));
+    const int lastRow = std::max(rowOf(ref.first), rowOf(ref.last));
+    const int firstCol = std::max(1, std::min(colOf(ref.first), colOf(ref.last)));
+    const int lastCol = std::max(colOf(ref.first), colOf(ref.last));
+    const auto& columns = byColumn_[static_cast<std::size_t>(sheet)];
+    for (int col = firstCol; col <= lastCol && col < static_cast<int>(columns.size()); ++col) {
+      const auto& entries = columns[static_cast<std::size_t>(col)];
+      auto it = std::lower_bound(entries.begin(), entries.end(), firstRow,
+                                 [](const Entry& e, int row) { return e.row < row; });
+      for (; it != entries.end() && it->row <= lastRow; ++it) out.push_back(it->node);
+    }
+  }
+
+  Workbook& book_;
+  std::vector<std::vector<std::vector<Entry>>> byColumn_;  // sheet -> column -> rows
+  std::unordered_map<int, std::vector<int>> nameEdges_;
+};
+
+// Evaluates one formula cell into its cached value; false when the cell keeps its value.
+// `delta` gets the change of a number, or infinity for any other change.
+bool Calculate(Workbook& book, const RecalcState::Item& item, double& delta) {
+  delta = 0;
+  if (item.sheet >= book.SheetCount()) return false;
+  Cell* cell = book.GetSheet(item.sheet + 1).Find(item.row, item.col);
+  if (cell == nullptr || !cell->IsFormula() || HasUnboundLink(*cell->formula)) return false;
+  Value value = Evaluate(*cell->formula, FormulaHost{&book, item.sheet, {item.row, item.col}});
+  if (value == cell->value) return false;
+  delta = value.IsNumber() && cell->value.IsNumber()
+              ? std::fabs(value.AsNumber() - cell->value.AsNumber())
+              : std::numeric_limits<double>::infinity();
+  cell->value = std::move(value);
+  return true;
+}
+
+// A cycle without iteration: every cell of it shows #VALUE!.
+bool MarkCycle(Workbook& book, const std::vector<RecalcState::Item>& items) {
+  bool changed = false;
+  const Value error = Value::Error(ErrorCode::Value);
+  for (const RecalcState::Item& item : items) {
+    if (item.sheet >= book.SheetCount()) continue;
+    Cell* cell = book.GetSheet(item.sheet + 1).Find(item.row, item.col);
+    if (cell == nullptr || !cell->IsFormula() || cell->value == error) continue;
+    cell->value = error;
+    changed = true;
+  }
+  return changed;
+}
+
+}  // namespace
+
+RecalcState& RecalcState::Of(Workbook& book) {
+  if (!book.recalc_) book.recalc_ = std::make_unique<RecalcState>();
+  return *book.recalc_;
+}
+
+void RecalcState::BuildOrder(Workbook& book, RecalcState& state) {
+  const DependencyGraph graph(book);
+  const int count = static_cast<int>(graph.nodes.size());
+  state.items.clear();
+  state.groups.clear();
+  state.items.reserve(graph.nodes.size());
+
+  // Tarjan's strongly connected components, with an explicit stack of frames. A component
+  // is complete only after every component it reads, so they come out in evaluation order.
+  std::vector<int> index(graph.nodes.size(), -1);
+  std::vector<int> low(graph.nodes.size(), 0);
+  std::vector<char> onStack(graph.nodes.size(), 0);
+  std::vector<int> stack;
+  struct Frame {
+    int node;
+    int edge;
+  };
+  std::vector<Frame> frames;
+  int counter = 0;
+  const auto visit = [&](int node) {
+    index[static_cast<std::size_t>(node)] = low[static_cast<std::size_t>(node)] = counter++;
+    stack.push_back(node);
+    onStack[static_cast<std::size_t>(node)] = 1;
+    frames.push_back({node, graph.edgeStart[static_cast<std::size_t>(node)]});
+  };
+  for (int start = 0; start < count; ++start) {
+    if (index[static_cast<std::size_t>(start)] >= 0) continue;
+    visit(start);
+    while (!frames.empty()) {
+      const int node = frames.back().node;
+      const auto n = static_cast<std::size_t>(node);
+      if (frames.back().edge < graph.edgeStart[n + 1]) {
+        const int next = graph.edges[static_cast<std::size_t>(frames.back().edge++)];
+        const auto w = static_cast<std::size_t>(next);
+        if (index[w] < 0) {
+          visit(next);
+        } else if (onStack[w]) {
+          low[n] = std::min(low[n], index[w]);
+        }
+        continue;
+      }
+      if (low[n] == index[n]) {
+        const auto begin = static_cast<std::uint32_t>(state.items.size());
+        int member;
+        do {
+          member = stack.back();
+          stack.pop_back();
+          onStack[static_cast<std::size_t>(member)] = 0;
+          state.items.push_back(graph.nodes[static_cast<std::size_t>(member)]);
+        } while (member != node);
+        const auto end = static_cast<std::uint32_t>(state.items.size());
+        bool cyclic = end - begin > 1;
+        for (int e = graph.edgeStart[n]; !cyclic && e < graph.edgeStart[n + 1]; ++e)
+          cyclic = graph.edges[static_cast<std::size_t>(e)] == node;
+        state.groups.push_back({begin, end, cyclic});
+      }
+      frames.pop_back();
+      if (!frames.empty()) {
+        const auto parent = static_cast<std::size_t>(frames.back().node);
+        low[parent] = std::min(low[parent], low[n]);
+      }
+    }
+  }
+  state.orderValid = true;
+  state.orderGeneration = structureGeneration;
+}
+
+void RecalcState::Run(Workbook& book) {
+  RecalcState& state = Of(book);
+  if (state.busy) return;
+  state.busy = true;
+  if (!state.orderValid || state.orderGeneration != structureGeneration) BuildOrder(book, state);
+  bool changed = false;
+  double delta = 0;
+  for (const Group& group : state.groups) {
+    if (!group.cyclic) {
+      changed |= Calculate(book, state.items[group.begin], delta);
+      continue;
+    }
+    const std::vector<Item> members(state.items.begin() + group.begin,
+                                    state.items.begin() + group.end);
+    if (!book.IterationOn()) {
+      changed |= MarkCycle(book, members);
+      continue;
+    }
+    for (int pass = 0; pass < std::max(1, book.MaxIterations()); ++pass) {
+      double largest = 0;
+      for (const Item& item : members) {
+        changed |= Calculate(book, item, delta);
+        largest = std::max(largest, delta);
+      }
+      if (largest < book.MaxChange()) break;
+    }
+  }
+  state.busy = false;
+  state.dirty = false;
+  BookRegistry& registry = BookRegistry::Instance();
+  if (changed) registry.NoteChange();
+  state.seenChangeCount = registry.ChangeCount();
+}
+
+void Workbook::Recalc() {
+  RecalcState::Run(*this);
+}
+
+void Workbook::SetAutoRecalc(bool on) {
+  autoRecalc_ = on;
+  if (on) EnsureCalculated();
+}
+
+void Workbook::SetIteration(bool on, int maxIterations, double maxChange) {
+  iterationOn_ = on;
+  maxIterations_ = maxIterations;
+  maxChange_ = maxChange;
+  RecalcState::Of(*this).dirty = true;
+}
+
+void Workbook::EnsureCalculated() {
+  if (!autoRecalc_) return;
+  RecalcState& state = RecalcState::Of(*this);
+  if (state.busy) return;
+  if (state.dirty || state.seenChangeCount != BookRegistry::Instance().ChangeCount()) Recalc();
+}
+
+void Workbook::NoteChange(bool structural) {
+  RecalcState& state = RecalcState::Of(*this);
+  state.dirty = true;
+  BookRegistry::Instance().NoteChange();
+  if (structural) {
+    state.orderValid = false;
+    ++structureGeneration;
+  }
+}
+
+}  // namespace gustline::wb
