@@ -45,14 +45,5 @@ TEST(Sheet, HiddenRowsStayAscendingAndUnique) {
   EXPECT_FALSE(sheet.RowHidden(20));
 }
 
-TEST(Sheet, ColumnWidthsFallBackToTheDefault) {
-  Sheet sheet("Sheet1", 1);
-  sheet.SetColumnWidth(3, 20);
-  EXPECT_EQ(sheet.ColumnWidth(3), 20);
-  EXPECT_EQ(sheet.ColumnWidth(4), Sheet::kDefaultColumnWidth);
-  sheet.SetDefaultColumnWidth(10);
-  EXPECT_EQ(sheet.ColumnWidth(4), 10);
-}
-
 }  // namespace
 }  // namespace gustline::wb

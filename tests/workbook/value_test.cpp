@@ -70,21 +70,5 @@ TEST(ErrorText, RoundTripsEveryCodeWithoutRegardToCase) {
   EXPECT_FALSE(ErrorFromText("#N/A ").has_value());
 }
 
-TEST(PlainText, WritesEachKind) {
-  EXPECT_EQ(PlainText(Value()), "");
-  EXPECT_EQ(PlainText(Value::Number(2.25)), "2.25");
-  EXPECT_EQ(PlainText(Value::Text("Page 1")), "Page 1");
-  EXPECT_EQ(PlainText(Value::Boolean(true)), "TRUE");
-  EXPECT_EQ(PlainText(Value::Boolean(false)), "FALSE");
-  EXPECT_EQ(PlainText(Value::Error(ErrorCode::Ref)), "#REF!");
-}
-
-TEST(Value, NumbersOfOtherKinds) {
-  EXPECT_EQ(Value::Boolean(true).AsNumber(), 1);
-  EXPECT_EQ(Value::Text("12").AsNumber(), 0);
-  EXPECT_EQ(Value::Error(ErrorCode::NA).AsNumber(), 0);
-  EXPECT_NE(Value::Number(1), Value::Boolean(true));
-}
-
 }  // namespace
 }  // namespace gustline::wb

@@ -123,20 +123,6 @@ TEST(Borders, ClosingLineKeepsTheOtherLines) {
       errc::kBadArgument);
 }
 
-TEST(Rows, HiddenRowsAndColumnWidths) {
-  Workbook book;
-  book.HideRows(45, 59, true);
-  EXPECT_TRUE(book.RowHidden(45));
-  EXPECT_TRUE(book.RowHidden(59));
-  EXPECT_FALSE(book.RowHidden(60));
-  book.SetRowHidden(50, false);
-  EXPECT_FALSE(book.RowHidden(50));
-  book.SetColumnWidth(2, 4, 12.5);
-  EXPECT_EQ(book.GetSheet(1).ColumnWidth(4), 12.5);
-  EXPECT_EQ(book.GetSheet(1).ColumnWidth(5), Sheet::kDefaultColumnWidth);
-  EXPECT_EQ(ErrorNumberOf([&] { book.SetColumnWidth(1, 1, -1); }), errc::kBadArgument);
-}
-
 class ClipboardTest : public ::testing::Test {
  protected:
   void SetUp() override {

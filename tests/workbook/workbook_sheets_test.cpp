@@ -24,9 +24,6 @@ TEST(Sheets, AddRenameFindAndSelect) {
   EXPECT_EQ(ErrorNumberOf([&] { book.SetSheetName(2, "sheet1"); }), errc::kBadArgument);
   EXPECT_EQ(ErrorNumberOf([&] { book.AddSheet(""); }), errc::kBadArgument);
   EXPECT_EQ(ErrorNumberOf([&] { book.SheetName(4); }), errc::kBadSheet);
-  book.SetSheetSelected(2, true);
-  EXPECT_TRUE(book.SheetSelected(2));
-  EXPECT_FALSE(book.SheetSelected(1));
 }
 
 TEST(Sheets, DeleteSheetsKeepsTheActiveSheetWhereItCan) {
