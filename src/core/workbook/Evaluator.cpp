@@ -124,7 +124,7 @@ std::string NumberToText(double number) {
   if (exponent >= 15 || exponent < -9) {
     out += digits.substr(0, 1);
     if (digits.size() > 1) out += "." + digits.substr(1);
-    char tail[8];
+    char tail[16];
     std::snprintf(tail, sizeof tail, "E%c%02d", exponent < 0 ? '-' : '+', std::abs(exponent));
     return out + tail;
   }

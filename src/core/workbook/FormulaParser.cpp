@@ -11,9 +11,10 @@
 namespace gustline::wb {
 namespace {
 
-// Nesting deeper than this is refused, so that neither the parser nor the evaluator can run
-// out of stack.
-constexpr int kMaxDepth = 200;
+// Nesting deeper than these is refused, so that neither the parser nor the evaluator can
+// run out of stack: parentheses, calls and signs, and the height of the operator tree.
+constexpr int kMaxNesting = 100;
+constexpr int kMaxHeight = 1000;
 
 using Token = FormulaToken;
 using TK = FormulaToken::Kind;
@@ -96,7 +97,7 @@ class Parser {
   }
 
   void Enter(int depth) const {
-    if (depth > kMaxDepth) Fail("Formula nested too deeply");
+    if (depth > kMaxNesting) Fail("Formula nested too deeply");
   }
 
   std::int32_t Add(Node node, std::initializer_list<std::int32_t> operands) {
@@ -111,7 +112,7 @@ class Parser {
   }
 
   std::int32_t Push(const Node& node, int height) {
-    if (height > kMaxDepth) Fail("Formula nested too deeply");
+    if (height > kMaxHeight) Fail("Formula nested too deeply");
     formula_->nodes.push_back(node);
     heights_.push_back(height);
     return static_cast<std::int32_t>(formula_->nodes.size() - 1);

@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "core/workbook/Formula.h"
+#include "core/workbook/Workbook.h"
+
+namespace gustline::wb {
+namespace {
+
+Value N(double number) {
+  return Value::Number(number);
+}
+
+// A project book with inputs on Sheet1 and a name on Sheet3, as reports link to it.
+std::unique_ptr<Workbook> MakeProject(const char* name = "WindData") {
+  auto project = std::make_unique<Workbook>(name);
+  project->AddSheet("Sheet2");
+  project->AddSheet("Sheet3");
+  project->SetCellNumber(24, 2, 30);
+  project->SetDefinedName("Height", "Sheet1!$B$24");
+  project->SetActiveSheet(3);
+  project->SetCellFormula(5, 1, "Sheet1!B24*2");
+  project->SetActiveSheet(1);
+  project->SetDefinedName("U_Str_Force", "Sheet3!$A$5");
+  return project;
+}
+
+TEST(LinksTest, LinksReadAnotherOpenBookByNameOrCell) {
+  auto project = MakeProject();
+  Workbook report("ServerSS");
+  report.SetCellFormula(1, 1, "[WindData]Sheet1!Height");
+  report.SetCellFormula(2, 1, "[winddata]sheet3!U_Str_Force");
+  report.SetCellFormula(3, 1, "[WindData]Sheet1!$B$24+1");
+  report.SetCellFormula(4, 1, "[WindData]Sheet2!Height");
+  EXPECT_EQ(report.CellValue(1, 1), N(30));
+  EXPECT_EQ(report.CellValue(2, 1), N(60));
+  EXPECT_EQ(report.CellValue(3, 1), N(31));
+  EXPECT_EQ(report.CellValue(4, 1), N(30));
+  EXPECT_EQ(report.CellFormula(2, 1), "[winddata]sheet3!U_Str_Force");
+
+  // The report follows the project at its next calculation.
+  project->SetCellNumber(24, 2, 40);
+  EXPECT_EQ(report.CellValue(1, 1), N(40));
+  EXPECT_EQ(report.CellValue(2, 1), N(80));
+}
+
+TEST(LinksTest, UnboundLinkKeepsItsCachedValueUntilReentered) {
+  Workbook report("Report");
+  report.SetCellFormula(1, 1, "[LateBook]Sheet1!Height");
+  const FormulaHost host{&report, 0, {1, 1}};
+  EXPECT_TRUE(HasUnboundLink(*ParseFormula("[LateBook]Sheet1!Height", host)));
+  report.GetSheet(1).Find(1, 1)->value = N(12);
+  report.Recalc();
+  EXPECT_EQ(report.CellValue(1, 1), N(12));
+
+  auto late = MakeProject("LateBook");
+  report.Recalc();
+  EXPECT_EQ(report.CellValue(1, 1), N(12));
+  report.SetCellFormula(1, 1, report.CellFormula(1, 1));
+  EXPECT_EQ(report.CellValue(1, 1), N(30));
+}
+
+TEST(LinksTest, ClosedBookGivesRef) {
+  auto project = MakeProject();
+  Workbook report("Report");
+  report.SetCellFormula(1, 1, "[WindData]Sheet1!Height");
+  EXPECT_EQ(report.CellValue(1, 1), N(30));
+  project.reset();
+  report.Recalc();
+  EXPECT_EQ(report.CellValue(1, 1), Value::Error(ErrorCode::Ref));
+}
+
+TEST(LinksTest, BracketWithTheBooksOwnNameRefersToItself) {
+  Workbook book("Figure66A(D)");
+  book.AddSheet("Page 2");
+  book.SetActiveSheet(2);
+  book.SetCellNumber(3, 3, 9);
+  book.SetActiveSheet(1);
+  book.SetDefinedName("Gust", "'Page 2'!$C$3");
+  book.SetCellFormula(1, 1, "'[Figure66A(D)]Page 2'!C3+[figure66a(d)]Sheet1!Gust");
+  EXPECT_EQ(book.CellValue(1, 1), N(18));
+  // A link to itself is a dependency like any other reference.
+  book.SetAutoRecalc(false);
+  book.SetActiveSheet(2);
+  book.SetCellFormula(3, 3, "4");
+  book.SetActiveSheet(1);
+  book.Recalc();
+  EXPECT_EQ(book.CellValue(1, 1), N(8));
+}
+
+TEST(LinksTest, DeletedSheetGivesRef) {
+  Workbook book("Sheets");
+  book.AddSheet("Sheet2");
+  book.AddSheet("Sheet3");
+  book.SetActiveSheet(3);
+  book.SetCellNumber(1, 1, 5);
+  book.SetActiveSheet(1);
+  book.SetCellFormula(1, 1, "Sheet3!A1");
+  EXPECT_EQ(book.CellValue(1, 1), N(5));
+  book.DeleteSheets(3, 1);
+  EXPECT_EQ(book.CellValue(1, 1), Value::Error(ErrorCode::Ref));
+  EXPECT_EQ(book.CellFormula(1, 1), "#REF!");
+}
+
+}  // namespace
+}  // namespace gustline::wb
