@@ -1,0 +1,402 @@
+#include "BookAssembler.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <optional>
+
+#include "FormulaCheck.h"
+#include "core/workbook/CellAddress.h"
+#include "core/workbook/FacilityError.h"
+#include "core/workbook/Formula.h"
+#include "core/workbook/Workbook.h"
+
+namespace gustline::books {
+namespace {
+
+// Nested includes deeper than this can only be a block that includes itself.
+constexpr int kMaxIncludeDepth = 16;
+
+std::string Upper(std::string_view text) {
+  std::string out(text);
+  std::transform(out.begin(), out.end(), out.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return out;
+}
+
+std::string Trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t");
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
+}
+
+std::optional<double> ReadNumber(std::string_view text) {
+  double number = 0;
+  const char* end = text.data() + text.size();
+  const auto [ptr, ec] = std::from_chars(text.data(), end, number);
+  if (text.empty() || ec != std::errc() || ptr != end) return std::nullopt;
+  return number;
+}
+
+// "KEY=VALUE" with the value unquoted.
+std::pair<std::string, std::string> SplitAssignment(const std::string& word,
+                                                    const SourceLocation& where) {
+  const auto equals = word.find('=');
+  if (equals == std::string::npos || equals == 0)
+    throw SourceError(where, "expected NAME=VALUE, not '" + word + "'");
+  return {word.substr(0, equals), Unquote(word.substr(equals + 1))};
+}
+
+}  // namespace
+
+void BookAssembler::ReadBook(const std::filesystem::path& bookFile) {
+  Frame frame;
+  frame.file = bookFile;
+  frame.isBook = true;
+  std::vector<SourceLine> lines = ReadSourceLines(bookFile);
+  for (auto& line : lines) line.text = Substitute(line.text, {}, line.where);
+  Run(lines, frame);
+  book_.SetActiveSheet(1);
+  book_.SetActiveCell(1, 1);
+}
+
+void BookAssembler::CheckFormulas() const {
+  for (const auto& placed : formulas_) {
+    book_.SetActiveSheet(placed.at.sheet);
+    const wb::FormulaHost host{&book_, placed.at.sheet - 1, {placed.at.row, placed.at.col}};
+    const auto formula = wb::ParseFormula(book_.CellFormula(placed.at.row, placed.at.col), host);
+    if (auto fault = FormulaFault(*formula, book_); !fault.empty())
+      throw SourceError(placed.where, fault);
+  }
+}
+
+void BookAssembler::Run(const std::vector<SourceLine>& lines, const Frame& outer) {
+  Frame frame = outer;
+  Section section = Section::None;
+  GridCursor grid;
+  for (const auto& line : lines) {
+    if (line.text.front() == '|') {
+      if (section == Section::Rows)
+        PlaceRow(line, frame);
+      else if (section == Section::Grid)
+        PlaceGridRow(line, frame, grid);
+      else
+        throw SourceError(line.where, "a table row outside a 'rows' or 'grid' section");
+      continue;
+    }
+    Directive(line, SplitWords(line.text, line.where), frame, section, grid);
+  }
+}
+
+void BookAssembler::Directive(const SourceLine& line, const std::vector<std::string>& words,
+                              Frame& frame, Section& section, GridCursor& grid) {
+  const std::string& keyword = words.front();
+  const auto needArgs = [&](std::size_t count, const char* usage) {
+    if (words.size() != count) throw SourceError(line.where, std::string("usage: ") + usage);
+  };
+  if (keyword == "book" || keyword == "sheet" || keyword == "columns") {
+    if (!frame.isBook) throw SourceError(line.where, "'" + keyword + "' stands in a book file");
+    if (keyword == "book") {
+      needArgs(2, "book NAME");
+      book_.SetBookName(words[1]);
+    } else if (keyword == "sheet") {
+      needArgs(2, "sheet NAME");
+      DeclareSheet(line, words[1]);
+    } else {
+      SetColumns(line, words);
+    }
+  } else if (keyword == "rows") {
+    if (frame.isBook) {
+      needArgs(2, "rows SHEET");
+      frame.sheet = SheetNumber(line.where, words[1]);
+    } else {
+      needArgs(1, "rows");
+    }
+    section = Section::Rows;
+  } else if (keyword == "grid") {
+    needArgs(2, frame.isBook ? "grid SHEET!CELL" : "grid CELL");
+    const Placement start = Locate(line.where, words[1], frame, &grid.row, &grid.col);
+    if (frame.isBook) frame.sheet = start.sheet;
+    section = Section::Grid;
+  } else if (keyword == "name") {
+    DefineNameDirective(line, frame);
+  } else if (keyword == "include") {
+    Include(line, words, frame);
+  } else if (keyword == "param") {
+    throw SourceError(line.where, "'param' stands in a block file, before its rows");
+  } else {
+    throw SourceError(line.where, "unknown directive '" + keyword + "'");
+  }
+}
+
+void BookAssembler::Include(const SourceLine& line, const std::vector<std::string>& words,
+                            const Frame& outer) {
+  if (words.size() < 4 || words[2] != "at" || (words.size() > 4 && words[4] != "with"))
+    throw SourceError(line.where, "usage: include BLOCK at CELL [with NAME=VALUE ...]");
+  if (outer.depth >= kMaxIncludeDepth)
+    throw SourceError(line.where, "includes nest too deep; does a block include itself?");
+
+  Frame inner;
+  inner.file = outer.file.parent_path() / (words[1] + ".cells");
+  const Placement anchor = Locate(line.where, words[3], outer);
+  inner.sheet = anchor.sheet;
+  inner.anchorRow = anchor.row;
+  inner.anchorCol = anchor.col;
+  inner.depth = outer.depth + 1;
+
+  std::vector<SourceLine> lines;
+  try {
+    lines = ReadSourceLines(inner.file);
+  } catch (const SourceError&) {
+    throw SourceError(line.where, "no block '" + words[1] + "' (" + inner.file.string() + ")");
+  }
+
+  std::map<std::string, std::string> params;
+  std::map<std::string, SourceLocation> required;
+  std::vector<SourceLine> body;
+  for (const auto& blockLine : lines) {
+    const auto blockWords = SplitWords(blockLine.text, blockLine.where);
+    if (blockWords.front() != "param") {
+      body.push_back(blockLine);
+      continue;
+    }
+    if (blockWords.size() != 2)
+      throw SourceError(blockLine.where, "usage: param NAME or param NAME=DEFAULT");
+    if (blockWords[1].find('=') == std::string::npos) {
+      params[blockWords[1]] = {};
+      required[blockWords[1]] = blockLine.where;
+    } else {
+      auto [name, value] = SplitAssignment(blockWords[1], blockLine.where);
+      params[name] = value;
+    }
+  }
+  for (std::size_t i = 5; i < words.size(); ++i) {
+    auto [name, value] = SplitAssignment(words[i], line.where);
+    if (!params.contains(name))
+      throw SourceError(line.where, "block '" + words[1] + "' has no parameter '" + name + "'");
+    params[name] = value;
+    required.erase(name);
+  }
+  if (!required.empty())
+    throw SourceError(line.where, "block '" + words[1] + "' needs the parameter '" +
+                                      required.begin()->first + "'");
+  for (auto& blockLine : body) blockLine.text = Substitute(blockLine.text, params, blockLine.where);
+  Run(body, inner);
+}
+
+void BookAssembler::DeclareSheet(const SourceLine& line, const std::string& name) {
+  if (book_.FindSheet(name) != 0 && declaredSheets_ > 0)
+    throw SourceError(line.where, "sheet '" + name + "' is declared twice");
+  if (declaredSheets_ == 0 && book_.SheetCount() > 0)
+    book_.SetSheetName(1, name);
+  else
+    book_.AddSheet(name);
+  ++declaredSheets_;
+}
+
+void BookAssembler::SetColumns(const SourceLine& line, const std::vector<std::string>& words) {
+  if (words.size() < 3) throw SourceError(line.where, "usage: columns SHEET COLUMN=WIDTH ...");
+  const int sheet = SheetNumber(line.where, words[1]);
+  book_.SetActiveSheet(sheet);
+  for (std::size_t i = 2; i < words.size(); ++i) {
+    const auto [letters, widthText] = SplitAssignment(words[i], line.where);
+    const auto area = wb::ParseAreaText(letters + "1");
+    const auto width = ReadNumber(widthText);
+    if (!area || !width || *width <= 0)
+      throw SourceError(line.where, "expected COLUMN=WIDTH, not '" + words[i] + "'");
+    book_.SetColumnWidth(area->firstCol, area->firstCol, *width);
+  }
+}
+
+void BookAssembler::DefineNameDirective(const SourceLine& line, const Frame& frame) {
+  const std::string rest = line.text.substr(std::string_view("name").size());
+  const auto equals = rest.find('=');
+  if (equals == std::string::npos) throw SourceError(line.where, "usage: name NAME = RANGE");
+  const std::string name = Trimmed(rest.substr(0, equals));
+  const std::string range = Trimmed(rest.substr(equals + 1));
+  if (name.empty()) return;
+
+  std::string areaText = range;
+  int sheet = frame.sheet;
+  if (const auto bang = range.find('!'); bang != std::string::npos) {
+    if (!frame.isBook)
+      throw SourceError(line.where, "a block names ranges on its own sheet, without 'Sheet!'");
+    sheet = SheetNumber(line.where, range.substr(0, bang));
+    areaText = range.substr(bang + 1);
+  }
+  auto area = wb::ParseAreaText(areaText);
+  if (!area) throw SourceError(line.where, "'" + range + "' is not a range");
+  if (sheet == 0) throw SourceError(line.where, "the range needs its sheet: Sheet!" + range);
+  if (!frame.isBook) {
+    const int rowShift = frame.anchorRow - 1;
+    const int colShift = frame.anchorCol - 1;
+    area->firstRow += rowShift;
+    area->lastRow += rowShift;
+    area->firstCol += colShift;
+    area->lastCol += colShift;
+    if (area->lastRow > wb::kMaxRow || area->lastCol > wb::kMaxCol)
+      throw SourceError(line.where, "the range falls off the sheet at this anchor");
+  }
+  DefineName(name, book_.SheetName(sheet) + "!" + wb::AreaText(*area, true), line.where);
+}
+
+void BookAssembler::PlaceRow(const SourceLine& line, const Frame& frame) {
+  const auto fields = SplitRow(line.text, line.where);
+  if (fields.size() < 4 || fields.size() > 6)
+    throw SourceError(line.where, "a row is | CELL | LABEL | NAMES | TYPE | VALUE | NOTE |");
+  int authoredRow = 0;
+  int authoredCol = 0;
+  const Placement at = Locate(line.where, fields[0].text, frame, &authoredRow, &authoredCol);
+  const std::string& label = fields[1].text;
+  const std::string& type = fields[3].text;
+  const Field value = fields.size() > 4 ? fields[4] : Field{};
+
+  if (type == "heading") {
+    if (!value.text.empty()) throw SourceError(line.where, "a heading has no value");
+    PutText(at, label, line.where);
+    MakeBold(at);
+  } else {
+    if (at.col == 1) throw SourceError(line.where, "the label needs a column left of the value");
+    if (!label.empty()) PutText({at.sheet, at.row, at.col - 1}, label, line.where);
+    if (value.text.empty()) Claim(at, line.where);
+    if (type == "number") {
+      if (!value.text.empty()) {
+        const auto number = ReadNumber(value.text);
+        if (!number || value.quoted)
+          throw SourceError(line.where, "'" + value.text + "' is not a number");
+        PutNumber(at, *number, line.where);
+      }
+    } else if (type == "text") {
+      if (!value.text.empty()) PutText(at, value.text, line.where);
+    } else if (type == "formula") {
+      if (value.quoted || value.text.empty() || value.text.front() != '=')
+        throw SourceError(line.where, "a formula starts with '='");
+      PutFormula(at, authoredRow, authoredCol, std::string_view(value.text).substr(1), line.where);
+    } else {
+      throw SourceError(line.where,
+                        "the type is heading, text, number or formula, not '" + type + "'");
+    }
+  }
+  if (fields.size() > 5 && !fields[5].text.empty())
+    PutText({at.sheet, at.row, at.col + 1}, fields[5].text, line.where);
+
+  const std::string cellText =
+      book_.SheetName(at.sheet) + "!" + wb::CellRefText(at.row, at.col, true);
+  for (const auto& name : SplitWords(fields[2].text, line.where))
+    if (name != "-") DefineName(name, cellText, line.where);
+}
+
+void BookAssembler::PlaceGridRow(const SourceLine& line, const Frame& frame, GridCursor& grid) {
+  const auto fields = SplitRow(line.text, line.where);
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    if (fields[i].text.empty() && !fields[i].quoted) continue;
+    const int authoredCol = grid.col + static_cast<int>(i);
+    const Placement at{frame.sheet, frame.anchorRow + grid.row - 1,
+                       frame.anchorCol + authoredCol - 1};
+    if (at.row > wb::kMaxRow || at.col > wb::kMaxCol)
+      throw SourceError(line.where, "the row falls off the sheet at this anchor");
+    PutEntry(at, grid.row, authoredCol, fields[i], line.where);
+  }
+  ++grid.row;
+}
+
+BookAssembler::Placement BookAssembler::Locate(const SourceLocation& where, const std::string& text,
+                                               const Frame& frame, int* authoredRow,
+                                               int* authoredCol) const {
+  int sheet = frame.sheet;
+  std::string cellText = text;
+  if (const auto bang = text.find('!'); bang != std::string::npos) {
+    if (!frame.isBook)
+      throw SourceError(where, "a block places cells relative to its anchor, without 'Sheet!'");
+    sheet = SheetNumber(where, text.substr(0, bang));
+    cellText = text.substr(bang + 1);
+  }
+  const auto area = wb::ParseAreaText(cellText);
+  if (!area || area->firstRow != area->lastRow || area->firstCol != area->lastCol)
+    throw SourceError(where, "'" + text + "' is not a cell");
+  if (sheet == 0) throw SourceError(where, "the cell needs its sheet: Sheet!" + text);
+  if (authoredRow) *authoredRow = area->firstRow;
+  if (authoredCol) *authoredCol = area->firstCol;
+  const Placement at{sheet, frame.anchorRow + area->firstRow - 1,
+                     frame.anchorCol + area->firstCol - 1};
+  if (at.row > wb::kMaxRow || at.col > wb::kMaxCol)
+    throw SourceError(where, "'" + text + "' falls off the sheet at this anchor");
+  return at;
+}
+
+int BookAssembler::SheetNumber(const SourceLocation& where, const std::string& name) const {
+  const int sheet = book_.FindSheet(name);
+  if (sheet == 0 || declaredSheets_ == 0)
+    throw SourceError(where, "no sheet '" + name + "' is declared");
+  return sheet;
+}
+
+void BookAssembler::Claim(const Placement& at, const SourceLocation& where) {
+  const auto [found, added] = written_.emplace(std::tuple{at.sheet, at.row, at.col}, where);
+  if (added) return;
+  throw SourceError(where, "cell " + book_.SheetName(at.sheet) + "!" +
+                               wb::CellRefText(at.row, at.col, false) + " is already written at " +
+                               found->second.Text());
+}
+
+void BookAssembler::PutText(const Placement& at, const std::string& text,
+                            const SourceLocation& where) {
+  Claim(at, where);
+  book_.SetActiveSheet(at.sheet);
+  book_.SetCellText(at.row, at.col, text);
+}
+
+void BookAssembler::PutNumber(const Placement& at, double number, const SourceLocation& where) {
+  Claim(at, where);
+  book_.SetActiveSheet(at.sheet);
+  book_.SetCellNumber(at.row, at.col, number);
+}
+
+void BookAssembler::PutFormula(const Placement& at, int authoredRow, int authoredCol,
+                               std::string_view formula, const SourceLocation& where) {
+  Claim(at, where);
+  const int sheetIndex = at.sheet - 1;
+  try {
+    const auto parsed = wb::ParseFormula(formula, {&book_, sheetIndex, {authoredRow, authoredCol}});
+    const std::string placed = wb::FormulaText(*parsed, {&book_, sheetIndex, {at.row, at.col}});
+    book_.SetActiveSheet(at.sheet);
+    book_.SetCellEntry(at.row, at.col, "=" + placed);
+  } catch (const wb::FacilityError& error) {
+    throw SourceError(where, "formula '" + std::string(formula) + "': " + error.what());
+  }
+  formulas_.push_back({at, where});
+}
+
+void BookAssembler::PutEntry(const Placement& at, int authoredRow, int authoredCol,
+                             const Field& entry, const SourceLocation& where) {
+  if (entry.quoted) {
+    PutText(at, entry.text, where);
+  } else if (entry.text.front() == '=') {
+    PutFormula(at, authoredRow, authoredCol, std::string_view(entry.text).substr(1), where);
+  } else if (const auto number = ReadNumber(entry.text)) {
+    PutNumber(at, *number, where);
+  } else {
+    PutText(at, entry.text, where);
+  }
+}
+
+void BookAssembler::MakeBold(const Placement& at) {
+  book_.SetActiveSheet(at.sheet);
+  wb::CellStyle style = book_.GetCellStyle(at.row, at.col);
+  style.font.bold = true;
+  book_.SetCellStyle(at.row, at.col, style);
+}
+
+void BookAssembler::DefineName(const std::string& name, const std::string& refersTo,
+                               const SourceLocation& where) {
+  const auto [found, added] = names_.emplace(Upper(name), where);
+  if (!added)
+    throw SourceError(where, "name '" + name + "' is already defined at " + found->second.Text());
+  try {
+    book_.SetDefinedName(name, refersTo);
+  } catch (const wb::FacilityError& error) {
+    throw SourceError(where, "name '" + name + "': " + error.what());
+  }
+}
+
+}  // namespace gustline::books

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "SourceText.h"
+
+namespace gustline::wb {
+class Workbook;
+}
+
+namespace gustline::books {
+
+// Builds a workbook from its sources: a book file that declares the sheets and places
+// blocks, and the block files (".cells") with their rows, grids, names and parameters.
+// The format is described in docs/workbook-sources.md. Faults raise SourceError.
+class BookAssembler {
+ public:
+  explicit BookAssembler(wb::Workbook& book) : book_(book) {}
+
+  // Reads the book file and everything it includes into the workbook.
+  void ReadBook(const std::filesystem::path& bookFile);
+  // Checks every placed formula once all names exist.
+  void CheckFormulas() const;
+
+ private:
+  // Where the lines of one file land: its sheet (1-based, 0 for none) and the cell that
+  // stands for A1 of a block.
+  struct Frame {
+    std::filesystem::path file;
+    bool isBook = false;
+    int sheet = 0;
+    int anchorRow = 1;
+    int anchorCol = 1;
+    int depth = 0;
+  };
+  enum class Section { None, Rows, Grid };
+  struct Placement {
+    int sheet = 0;
+    int row = 0;
+    int col = 0;
+  };
+  // The next grid row, as authored in its file.
+  struct GridCursor {
+    int row = 1;
+    int col = 1;
+  };
+  struct PlacedFormula {
+    Placement at;
+    SourceLocation where;
+  };
+
+  void Run(const std::vector<SourceLine>& lines, const Frame& frame);
+  void Directive(const SourceLine& line, const std::vector<std::string>& words, Frame& frame,
+                 Section& section, GridCursor& grid);
+  void Include(const SourceLine& line, const std::vector<std::string>& words, const Frame& outer);
+  void DeclareSheet(const SourceLine& line, const std::string& name);
+  void SetColumns(const SourceLine& line, const std::vector<std::string>& words);
+  void DefineNameDirective(const SourceLine& line, const Frame& frame);
+  void PlaceRow(const SourceLine& line, const Frame& frame);
+  void PlaceGridRow(const SourceLine& line, const Frame& frame, GridCursor& grid);
+
+  // A cell text of the frame ("B4", or "Sheet3!B4" in a book) as a sheet cell.
+  Placement Locate(const SourceLocation& where, const std::string& text, const Frame& frame,
+                   int* authoredRow = nullptr, int* authoredCol = nullptr) const;
+  int SheetNumber(const SourceLocation& where, const std::string& name) const;
+
+  void Claim(const Placement& at, const SourceLocation& where);
+  void PutText(const Placement& at, const std::string& text, const SourceLocation& where);
+  void PutNumber(const Placement& at, double number, const SourceLocation& where);
+  // A formula written for its authored cell, placed at `at` with relative references
+  // following the placement.
+  void PutFormula(const Placement& at, int authoredRow, int authoredCol, std::string_view formula,
+                  const SourceLocation& where);
+  // As typed: quoted is text, "=" a formula, a number a number, anything else text.
+  void PutEntry(const Placement& at, int authoredRow, int authoredCol, const Field& entry,
+                const SourceLocation& where);
+  void MakeBold(const Placement& at);
+  void DefineName(const std::string& name, const std::string& refersTo,
+                  const SourceLocation& where);
+
+  wb::Workbook& book_;
+  int declaredSheets_ = 0;
+  std::map<std::tuple<int, int, int>, SourceLocation> written_;
+  std::map<std::string, SourceLocation> names_;  // upper-cased
+  std::vector<PlacedFormula> formulas_;
+};
+
+}  // namespace gustline::books
