@@ -290,7 +290,7 @@ std::string FormatNumber(double number, std::string_view format) {
 
   const Section section = ParseSection(chosen);
   Decimal decimal = ToDecimal(std::fabs(number));
-  decimal.point += 2 * section.percent;
+  if (!decimal.digits.empty()) decimal.point += 2 * section.percent;
 
   std::string body;
   if (section.general || !section.hasDigits) {

@@ -86,9 +86,11 @@ WorkbookDocument CaptureDocument(Workbook& book) {
 }
 
 void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
-  book.SetAutoRecalc(false);
   book.ClearAll();
   book.Styles().Clear();
+  // Set on the empty book, so that nothing is calculated now: a book that calculates
+  // automatically does so at its first read, and a manual one keeps the stored results.
+  book.SetAutoRecalc(document.autoRecalc);
   book.SetBookName(document.bookName);
   book.SetTitle(document.title);
   book.SetIteration(document.iterationOn, document.maxIterations, document.maxChange);
@@ -120,7 +122,6 @@ void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
   }
   book.SetActiveSheet(document.activeSheet);
   book.NoteChange(true);
-  book.SetAutoRecalc(document.autoRecalc);
 }
 
 }  // namespace gustline::wb
