@@ -70,6 +70,23 @@ TEST_F(CopyDownTest, OneRowOrALastRowAboveTheFirstDoesNothing) {
   EXPECT_EQ(book.CellFormula(15, 4), "B15+C15");
 }
 
+TEST(EmptySelection, BlockOperationsDoNothing) {
+  Workbook book;
+  book.SetCellNumber(1, 1, 7);
+  book.SetSelectionRC(1, 1, 0, 0);
+  book.CopyDown();
+  book.ClearRange(1);
+  book.SetNumberFormat("0.00");
+  book.SetBorder(1, 1, 1, 1, 1, 1, -1, -1, -1, -1, -1);
+  EXPECT_EQ(book.GetBorder().outline, 0);
+  book.CopySelection();
+  book.SetSelection("B1");
+  book.PasteSelection(PasteMode::All);
+  EXPECT_EQ(book.CellNumber(1, 1), 7);
+  EXPECT_EQ(book.GetCellStyle(1, 1), CellStyle{});
+  EXPECT_EQ(book.LastCol(), 1);
+}
+
 TEST(ClearRange, AllOrValuesOnly) {
   Workbook book;
   for (const int what : {1, 3}) {

@@ -24,6 +24,16 @@ inline void CheckCell(int row, int col) {
   CheckCol(col);
 }
 
+// The last row or column of a selection may be 0, before the first: an empty selection, as
+// the selection of an empty sheet's used range is.
+inline void CheckLastRow(int row) {
+  if (row != 0) CheckRow(row);
+}
+
+inline void CheckLastCol(int col) {
+  if (col != 0) CheckCol(col);
+}
+
 inline bool IsWholeSheet(const Area& area) {
   return area == Area{1, 1, kMaxRow, kMaxCol};
 }

@@ -56,7 +56,7 @@ void Workbook::SetSelFirstRow(int row) {
 }
 
 void Workbook::SetSelLastRow(int row) {
-  CheckRow(row);
+  CheckLastRow(row);
   Active().selection.lastRow = row;
 }
 
@@ -66,7 +66,7 @@ void Workbook::SetSelFirstCol(int col) {
 }
 
 void Workbook::SetSelLastCol(int col) {
-  CheckCol(col);
+  CheckLastCol(col);
   Active().selection.lastCol = col;
 }
 
@@ -77,7 +77,8 @@ void Workbook::SetSelectionRC(int firstRow, int firstCol, int lastRow, int lastC
     lastCol = kMaxCol;
   }
   CheckCell(firstRow, firstCol);
-  CheckCell(lastRow, lastCol);
+  CheckLastRow(lastRow);
+  CheckLastCol(lastCol);
   Active().selection = Area{firstRow, firstCol, lastRow, lastCol};
   Active().active = {firstRow, firstCol};
 }
