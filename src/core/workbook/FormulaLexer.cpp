@@ -14,17 +14,20 @@ namespace {
                       std::string(what) + " at position " + std::to_string(position + 1));
 }
 
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool IsLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 bool IsWordStart(char c) {
-  return std::isalpha(static_cast<unsigned char>(c)) || c == '_' || c == '\\' || c == '$';
+  return IsLetter(c) || c == '_' || c == '\\' || c == '$';
 }
 
 bool IsWordChar(char c) {
-  return std::isalnum(static_cast<unsigned char>(c)) || c == '_' || c == '\\' || c == '$' ||
-         c == '.' || c == '?';
-}
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
+  return IsWordStart(c) || IsDigit(c) || c == '.' || c == '?';
 }
 
 // The length of a number literal at the start of the text: digits, a fraction, an exponent.
@@ -82,6 +85,7 @@ constexpr std::string_view kErrorLiterals[] = {"#NULL!", "#DIV/0!", "#VALUE!", "
 std::vector<FormulaToken> TokenizeFormula(std::string_view text) {
   using Kind = FormulaToken::Kind;
   std::vector<FormulaToken> tokens;
+  tokens.reserve(text.size() / 2 + 2);
   std::size_t i = 0;
   while (i < text.size()) {
     const char c = text[i];

@@ -75,6 +75,8 @@ class Parser {
 
   std::shared_ptr<const Formula> Run() {
     formula_ = std::make_shared<Formula>();
+    formula_->nodes.reserve(tokens_.size());
+    heights_.reserve(tokens_.size());
     formula_->root = ParseComparison(0);
     if (Peek().kind != TK::End) Fail("Unexpected text");
     return formula_;

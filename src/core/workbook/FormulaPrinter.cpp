@@ -44,6 +44,7 @@ class Printer {
   Printer(const Formula& formula, const FormulaHost& host) : f_(formula), host_(host) {}
 
   std::string Run() {
+    out_.reserve(64);
     Print(f_.root);
     return std::move(out_);
   }

@@ -13,10 +13,25 @@ Operand ErrorOperand(ErrorCode code) {
   return Operand::Of(Value::Error(code));
 }
 
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
 // Rounds half away from zero on the value's 15-significant-digit decimal form, so that
 // 2.675 rounds to 2.68 as it shows, not by its binary neighbour 2.67499999...
 double RoundDecimal(double number, int digits) {
   if (number == 0 || !std::isfinite(number)) return number;
+  // Away from a tie the binary value rounds the same way as its decimal form: scale,
+  // round and scale back exactly.
+  if (digits >= -15 && digits <= 15) {
+    const double scale = kPowersOfTen[std::abs(digits)];
+    const double scaled = std::fabs(digits >= 0 ? number * scale : number / scale);
+    const double fraction = scaled - std::floor(scaled);
+    if (scaled < 1e9 && std::fabs(fraction - 0.5) > 1e-5) {
+      const double whole = fraction > 0.5 ? std::floor(scaled) + 1 : std::floor(scaled);
+      const double magnitude = digits >= 0 ? whole / scale : whole * scale;
+      return number < 0 ? -magnitude : magnitude;
+    }
+  }
   char buffer[40];
   std::snprintf(buffer, sizeof buffer, "%.14e", std::fabs(number));
   std::string mantissa;  // 15 digits, the first before the point
