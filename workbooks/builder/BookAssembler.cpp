@@ -56,8 +56,7 @@ void BookAssembler::ReadBook(const std::filesystem::path& bookFile) {
   std::vector<SourceLine> lines = ReadSourceLines(bookFile);
   for (auto& line : lines) line.text = Substitute(line.text, {}, line.where);
   Run(lines, frame);
-  book_.SetActiveSheet(1);
-  book_.SetActiveCell(1, 1);
+  ShowFirstSheet();
 }
 
 void BookAssembler::CheckFormulas() const {
@@ -68,6 +67,12 @@ void BookAssembler::CheckFormulas() const {
     if (auto fault = FormulaFault(*formula, book_); !fault.empty())
       throw SourceError(placed.where, fault);
   }
+  ShowFirstSheet();
+}
+
+void BookAssembler::ShowFirstSheet() const {
+  book_.SetActiveSheet(1);
+  book_.SetActiveCell(1, 1);
 }
 
 void BookAssembler::Run(const std::vector<SourceLine>& lines, const Frame& outer) {

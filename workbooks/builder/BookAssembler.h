@@ -53,6 +53,8 @@ class BookAssembler {
     SourceLocation where;
   };
 
+  // A built book opens on A1 of its first sheet.
+  void ShowFirstSheet() const;
   void Run(const std::vector<SourceLine>& lines, const Frame& frame);
   void Directive(const SourceLine& line, const std::vector<std::string>& words, Frame& frame,
                  Section& section, GridCursor& grid);
