@@ -72,19 +72,6 @@ TEST_F(BookAssemblerTest, BlockLandsAtItsAnchorWithReferencesFollowing) {
   EXPECT_EQ(book_.CellNumber(21, 4), 12);
 }
 
-TEST_F(BookAssemblerTest, QuotedFieldsKeepTheirSpacesAndStayText) {
-  Write("book.book",
-        "book Test\nsheet Main\nrows Main\n"
-        "| B2 | \"Label \" | Blank | text | \" \" |\n"
-        "grid Main!A5\n| \"12\" | 12 | \"a|b\" |\n");
-  Assemble();
-  EXPECT_EQ(book_.CellValue(2, 1).AsText(), "Label ");
-  EXPECT_EQ(book_.CellValue(2, 2).AsText(), " ");
-  EXPECT_TRUE(book_.CellValue(5, 1).IsText());
-  EXPECT_TRUE(book_.CellValue(5, 2).IsNumber());
-  EXPECT_EQ(book_.CellValue(5, 3).AsText(), "a|b");
-}
-
 struct FaultCase {
   const char* what;
   const char* block;     // block.cells, included at Main!A1
