@@ -124,6 +124,8 @@ class Workbook {
   void CopyDown();
   // 1: everything; 3: values and formulas only, keeping formats.
   void ClearRange(int what);
+  // The engine's clipboard, one for the process. A cut clears its source at once; a paste
+  // writes the whole copied block from the selection's top left.
   void CopySelection();
   void CutSelection();
   void PasteSelection(PasteMode mode = PasteMode::All);
