@@ -103,5 +103,17 @@ TEST(LinksTest, DeletedSheetGivesRef) {
   EXPECT_EQ(book.CellFormula(1, 1), "#REF!");
 }
 
+TEST(LinksTest, BooksLinkedBothWaysSettleWithoutLooping) {
+  Workbook first("First");
+  Workbook second("Second");
+  first.SetCellNumber(1, 1, 2);
+  second.SetCellFormula(1, 1, "[First]Sheet1!A1*10");
+  first.SetCellFormula(1, 2, "[Second]Sheet1!A1+1");
+  EXPECT_EQ(first.CellValue(1, 2), N(21));
+  first.SetCellNumber(1, 1, 3);
+  EXPECT_EQ(second.CellValue(1, 1), N(30));
+  EXPECT_EQ(first.CellValue(1, 2), N(31));
+}
+
 }  // namespace
 }  // namespace gustline::wb
