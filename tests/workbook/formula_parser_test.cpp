@@ -57,6 +57,8 @@ TEST_F(FormulaParserTest, PrintsACanonicalForm) {
       {"A1:INDEX(B1:B9,3)", "A1:INDEX(B1:B9,3)"},
       {"1<>2", "1<>2"},
       {"a1 & \"x\"", "A1&\"x\""},
+      {"'[B\"k]Sheet'!A1", "[B\"k]Sheet!A1"},
+      {"'[Bk].x1'!A1", "'[Bk].x1'!A1"},
   };
   for (const auto& c : cases) {
     const std::string printed = RoundTrip(c.input);

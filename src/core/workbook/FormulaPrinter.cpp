@@ -16,7 +16,9 @@ constexpr const char* kBinaryText[] = {"+",  "-", "*", "/",  "^",  "&", "=",
 
 // A sheet name reads back unquoted when it is a plain word that is not a cell reference.
 bool NeedsQuotes(std::string_view sheet) {
-  if (sheet.empty() || std::isdigit(static_cast<unsigned char>(sheet.front()))) return true;
+  if (sheet.empty() ||
+      !(std::isalpha(static_cast<unsigned char>(sheet.front())) || sheet.front() == '_'))
+    return true;
   for (char c : sheet) {
     if (!std::isalnum(static_cast<unsigned char>(c)) && c != '_' && c != '.') return true;
   }
