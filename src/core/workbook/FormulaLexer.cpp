@@ -80,6 +80,49 @@ bool EqualsNoCase(std::string_view a, std::string_view b) {
 constexpr std::string_view kErrorLiterals[] = {"#NULL!", "#DIV/0!", "#VALUE!", "#REF!",
                                                "#NAME?", "#NUM!",   "#N/A"};
 
+// The operator at the position, which it steps over.
+FormulaToken::Kind OperatorKind(std::string_view text, std::size_t& i) {
+  using Kind = FormulaToken::Kind;
+  const char c = text[i++];
+  const char next = i < text.size() ? text[i] : '\0';
+  switch (c) {
+    case '<':
+      if (next == '=' || next == '>') ++i;
+      return next == '=' ? Kind::Le : (next == '>' ? Kind::Ne : Kind::Lt);
+    case '>':
+      if (next == '=') ++i;
+      return next == '=' ? Kind::Ge : Kind::Gt;
+    case '!':
+      return Kind::Bang;
+    case ':':
+      return Kind::Colon;
+    case ',':
+      return Kind::Comma;
+    case '(':
+      return Kind::LParen;
+    case ')':
+      return Kind::RParen;
+    case '+':
+      return Kind::Plus;
+    case '-':
+      return Kind::Minus;
+    case '*':
+      return Kind::Star;
+    case '/':
+      return Kind::Slash;
+    case '^':
+      return Kind::Caret;
+    case '&':
+      return Kind::Ampersand;
+    case '%':
+      return Kind::Percent;
+    case '=':
+      return Kind::Eq;
+    default:
+      SyntaxError("Unexpected character", i - 1);
+  }
+}
+
 }  // namespace
 
 std::vector<FormulaToken> TokenizeFormula(std::string_view text) {
@@ -127,26 +170,7 @@ std::vector<FormulaToken> TokenizeFormula(std::string_view text) {
       token.kind = Kind::Error;
       i += token.text.size();
     } else {
-      struct Op {
-        std::string_view text;
-        Kind kind;
-      };
-      static constexpr Op kOps[] = {
-          {"<=", Kind::Le},   {">=", Kind::Ge},       {"<>", Kind::Ne},     {"!", Kind::Bang},
-          {":", Kind::Colon}, {",", Kind::Comma},     {"(", Kind::LParen},  {")", Kind::RParen},
-          {"+", Kind::Plus},  {"-", Kind::Minus},     {"*", Kind::Star},    {"/", Kind::Slash},
-          {"^", Kind::Caret}, {"&", Kind::Ampersand}, {"%", Kind::Percent}, {"=", Kind::Eq},
-          {"<", Kind::Lt},    {">", Kind::Gt}};
-      bool found = false;
-      for (const Op& op : kOps) {
-        if (text.substr(i, op.text.size()) == op.text) {
-          token.kind = op.kind;
-          i += op.text.size();
-          found = true;
-          break;
-        }
-      }
-      if (!found) SyntaxError("Unexpected character", i);
+      token.kind = OperatorKind(text, i);
     }
     tokens.push_back(std::move(token));
   }

@@ -1,4 +1,3 @@
-#include <cctype>
 #include <iterator>
 
 #include "FormulaAst.h"
@@ -37,8 +36,8 @@ constexpr FunctionInfo kFunctions[] = {
 bool SameNoCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (std::size_t i = 0; i < a.size(); ++i) {
-    if (std::toupper(static_cast<unsigned char>(a[i])) != static_cast<unsigned char>(b[i]))
-      return false;
+    const char upper = a[i] >= 'a' && a[i] <= 'z' ? static_cast<char>(a[i] - 'a' + 'A') : a[i];
+    if (upper != b[i]) return false;
   }
   return true;
 }
