@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/RecentFiles.h"
+#include "core/Settings.h"
+
+namespace gustline {
+namespace {
+
+std::vector<std::string> Captions(const RecentFiles& files) {
+  std::vector<std::string> captions;
+  for (int i = 0; i < RecentFiles::kCount; ++i) captions.push_back(files.Entry(i).caption);
+  return captions;
+}
+
+RecentFiles Loaded(const std::vector<std::string>& captions) {
+  MemorySettings settings;
+  for (std::size_t i = 0; i < captions.size(); ++i)
+    settings.SaveSetting(RecentFileKey(static_cast<int>(i)), captions[i]);
+  RecentFiles files;
+  files.Load(settings);
+  return files;
+}
+
+TEST(RecentFiles, FirstRunShowsEmptyDisabledAndHidesTheRest) {
+  const RecentFiles files = Loaded({});
+  EXPECT_EQ(files.Entry(0), (RecentEntry{"(Empty)", true, false}));
+  for (int i = 1; i < RecentFiles::kCount; ++i) EXPECT_FALSE(files.Entry(i).visible) << i;
+}
+
+TEST(RecentFiles, OpeningTheThirdEntryMovesItToTheTop) {
+  RecentFiles files = Loaded({"a.gln", "b.gln", "c.gln", "d.gln"});
+  files.Add("c.gln");
+  EXPECT_EQ(Captions(files), (std::vector<std::string>{"c.gln", "a.gln", "b.gln", "d.gln"}));
+}
+
+TEST(RecentFiles, FiveOpensKeepTheLastFourNewestFirst) {
+  RecentFiles files = Loaded({});
+  for (const char* name : {"1.gln", "2.gln", "3.gln", "4.gln", "5.gln"}) files.Add(name);
+  EXPECT_EQ(Captions(files), (std::vector<std::string>{"5.gln", "4.gln", "3.gln", "2.gln"}));
+  for (int i = 0; i < RecentFiles::kCount; ++i)
+    EXPECT_EQ(files.Entry(i), (RecentEntry{Captions(files)[i], true, true})) << i;
+}
+
+TEST(RecentFiles, ReopeningTheNewestLeavesTheListAlone) {
+  RecentFiles files = Loaded({"a.gln", "b.gln"});
+  files.Add("a.gln");
+  EXPECT_EQ(Captions(files), (std::vector<std::string>{"a.gln", "b.gln", "", ""}));
+  EXPECT_FALSE(files.Entry(2).visible);
+}
+
+TEST(RecentFiles, NamesAreComparedExactly) {
+  RecentFiles files = Loaded({"a.gln"});
+  files.Add("A.GLN");
+  EXPECT_EQ(Captions(files), (std::vector<std::string>{"A.GLN", "a.gln", "", ""}));
+}
+
+// The placeholder moves down with the first open and stays disabled; after a restart only
+// the first entry is checked for it, so it comes back enabled.
+TEST(RecentFiles, PlaceholderPushedDownIsDisabledUntilTheNextStart) {
+  RecentFiles files = Loaded({});
+  files.Add("a.gln");
+  EXPECT_EQ(files.Entry(1), (RecentEntry{"(Empty)", true, false}));
+
+  MemorySettings settings;
+  files.Save(settings);
+  EXPECT_EQ(settings.values.at("File1"), "(Empty)");
+  RecentFiles restarted;
+  restarted.Load(settings);
+  EXPECT_EQ(restarted.Entry(1), (RecentEntry{"(Empty)", true, true}));
+}
+
+}  // namespace
+}  // namespace gustline
