@@ -44,19 +44,6 @@ TEST(RecentFiles, FiveOpensKeepTheLastFourNewestFirst) {
     EXPECT_EQ(files.Entry(i), (RecentEntry{Captions(files)[i], true, true})) << i;
 }
 
-TEST(RecentFiles, ReopeningTheNewestLeavesTheListAlone) {
-  RecentFiles files = Loaded({"a.gln", "b.gln"});
-  files.Add("a.gln");
-  EXPECT_EQ(Captions(files), (std::vector<std::string>{"a.gln", "b.gln", "", ""}));
-  EXPECT_FALSE(files.Entry(2).visible);
-}
-
-TEST(RecentFiles, NamesAreComparedExactly) {
-  RecentFiles files = Loaded({"a.gln"});
-  files.Add("A.GLN");
-  EXPECT_EQ(Captions(files), (std::vector<std::string>{"A.GLN", "a.gln", "", ""}));
-}
-
 // The placeholder moves down with the first open and stays disabled; after a restart only
 // the first entry is checked for it, so it comes back enabled.
 TEST(RecentFiles, PlaceholderPushedDownIsDisabledUntilTheNextStart) {

@@ -52,10 +52,5 @@ INSTANTIATE_TEST_SUITE_P(Texts, SettingBoolTest,
                                            BoolCase{"-1", true}, BoolCase{"yes", std::nullopt},
                                            BoolCase{"", std::nullopt}));
 
-TEST(SettingBool, WrittenAsTrueAndFalse) {
-  EXPECT_EQ(BoolSettingText(true), "True");
-  EXPECT_EQ(BoolSettingText(false), "False");
-}
-
 }  // namespace
 }  // namespace gustline

@@ -41,16 +41,5 @@ INSTANTIATE_TEST_SUITE_P(Values, SummaryPanelTest,
                                            PanelCase{"Height", 60, 5, " Height = 60.00 ft "},
                                            PanelCase{"Height", 7.5, 5, " Height = 7.50 ft "}));
 
-TEST(StatusSummary, FillsAllFivePanels) {
-  wb::Workbook project("WindData");
-  testing::FillProject(project, 100);
-  RecordingView view;
-  UpdateStatusSummary(project, view);
-  EXPECT_TRUE(view.panelStyle);
-  EXPECT_EQ(view.panels[1], " Press F1 for Help");
-  EXPECT_EQ(view.panels[2], " V = 100.00 mph ");
-  EXPECT_EQ(view.panels[5], " Height = 60.00 ft ");
-}
-
 }  // namespace
 }  // namespace gustline
