@@ -1,0 +1,221 @@
+#include "report/ReportBuilders.h"
+
+#include "core/Prompt.h"
+#include "core/workbook/NamedCells.h"
+#include "core/workbook/NumberFormat.h"
+#include "core/workbook/Workbook.h"
+#include "geometry/IntervalAreas.h"
+#include "report/HeightList.h"
+#include "report/HeightTables.h"
+#include "report/ReportRefresh.h"
+
+namespace gustline::report {
+namespace {
+
+using enum ReportBuilder;
+
+constexpr int kClearAll = 1;
+
+// The height rows of the project: their count, the text of the height columns, the order.
+struct Heights {
+  int rows = 0;
+  std::string text;
+  int order = 0;
+};
+
+Heights ReadHeights(wb::Workbook& project) {
+  const double height = wb::ReadNamedNumber(project, "Height");
+  const int interval = wb::ReadNamedInt(project, "Interval");
+  const std::string userIntervals = wb::ReadNamedText(project, "UserIntervals");
+  const int order = wb::ReadNamedInt(project, "Order");
+  return Heights{CountHeightRows(height, interval, userIntervals),
+                 BuildHeightText(height, interval, order, userIntervals), order};
+}
+
+std::string OutlineAreas(const BuildContext& context) {
+  return OneValuePerLine(geometry::GetIntervalAreas(context.project, context.areas));
+}
+
+// Steps every builder begins with. The template file brings its own calculation setting,
+// so automatic calculation is turned off again once it is read.
+void BringTemplateIn(const wb::Workbook& templateBook, const BuildContext& context) {
+  wb::Workbook& report = context.report;
+  report.ClearAll();
+  report.SetMousePointer(kHourglassPointer);
+  report.SetAutoRecalc(false);
+  LoadTemplateToReport(templateBook, report, context.applicationPath);
+  report.SetAutoRecalc(false);
+}
+
+// The system lines of page 1 for components and cladding.
+void WriteSystemHeading(const BuildContext& context) {
+  if (wb::ReadNamedInt(context.project, "System") != 1) return;
+  wb::Workbook& report = context.report;
+  report.SetActiveSheet(1);
+  report.SetCellText(14, 2, "Components");
+  report.SetCellText(15, 2, "and Cladding");
+}
+
+void ClearNamedRange(wb::Workbook& report, const char* name) {
+  report.SetSelection(name);
+  report.ClearRange(kClearAll);
+}
+
+bool HasParapet(const BuildContext& context, const char* name = "HasParapet") {
+  return wb::ReadNamedInt(context.project, name) != 0;
+}
+
+void ShowFirstSheet(wb::Workbook& report) {
+  report.SetActiveSheet(1);
+  report.SetActiveCell(1, 1);
+}
+
+void PasteList(wb::Workbook& report, const char* target, wb::Workbook& project,
+               const char* listName) {
+  report.SetSelection(target);
+  report.SetClipText(CommaListLines(wb::ReadNamedText(project, listName)));
+}
+
+void BuildTablesWithAreas(const wb::Workbook& templateBook, const BuildContext& context) {
+  const Heights heights = ReadHeights(context.project);
+  const std::string areas = OutlineAreas(context);
+  BringTemplateIn(templateBook, context);
+  wb::Workbook& report = context.report;
+  FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
+  FillForcesTable(report, {"Start2", "TopRow2", "StartArea"}, heights.rows, heights.text, areas,
+                  heights.order);
+  FillForcesTable(report, {"Start3", "TopRow3", "StartArea2"}, heights.rows, heights.text, areas,
+                  heights.order);
+  if (wb::ReadNamedInt(context.project, "Figure") == 1 && !HasParapet(context))
+    ClearNamedRange(report, "IncludeParapet");
+}
+
+// The open-structure builders of Figures 6-21 to 6-23 and the special case: a pressures
+// table, an input list beside it, and one forces table.
+struct TwoTables {
+  const char* listTarget = nullptr;  // none for Figure 6-22
+  const char* listName = nullptr;
+};
+
+ForcesTable BuildTwoTables(const wb::Workbook& templateBook, const BuildContext& context,
+                           const Heights& heights, const std::string& areas, TwoTables list) {
+  BringTemplateIn(templateBook, context);
+  wb::Workbook& report = context.report;
+  FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
+  if (list.listTarget != nullptr)
+    PasteList(report, list.listTarget, context.project, list.listName);
+  return FillForcesTable(report, {"Start2", "TopRow2", "StartArea"}, heights.rows, heights.text,
+                         areas, heights.order);
+}
+
+void BuildFigure621(const wb::Workbook& templateBook, const BuildContext& context) {
+  const Heights heights = ReadHeights(context.project);
+  const ForcesTable forces = BuildTwoTables(templateBook, context, heights, OutlineAreas(context),
+                                            {"StartDiam", "Table67Dia"});
+  const double factor = wb::ReadNamedNumber(context.project, "Sect_6_5_15_1_MultFactor");
+  if (factor > 1)
+    context.report.SetCellEntry(forces.summaryRow - 2, forces.firstColumn,
+                                "Note: Forces multiplied by a factor of " +
+                                    wb::FormatNumber(factor, "0.00") + " per 6.5.15.1");
+}
+
+bool BuildSpecialCase(const wb::Workbook& templateBook, const BuildContext& context) {
+  const Heights heights = ReadHeights(context.project);
+  if (heights.rows < 1) {
+    context.prompt.Show(Message{"", "Halt pRowCount Error."});
+    return false;
+  }
+  const std::string areas =
+      CommaListLines(wb::ReadNamedText(context.project, "TableSpecialProjAreas"));
+  BuildTwoTables(templateBook, context, heights, areas, {"CfFactors", "TableSpecialCoefficients"});
+  return true;
+}
+
+void BuildFigure617(const wb::Workbook& templateBook, const BuildContext& context) {
+  const Heights heights = ReadHeights(context.project);
+  BringTemplateIn(templateBook, context);
+  wb::Workbook& report = context.report;
+  FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
+  FillHeightTable(report, "Start1", "TopRow1", heights.rows, heights.text);
+  if (wb::ReadNamedNumber(context.project, "Figure68Angle") < 10)
+    ClearNamedRange(report, "AddTable");
+  if (!HasParapet(context, "HasParapets")) {
+    report.DeleteSheets(4, 1);
+    report.SetSheetName(4, "Page 4");
+    report.SetSheetName(5, "Page 5");
+  }
+}
+
+void BuildSimplifiedMwfrs(const wb::Workbook& templateBook, const BuildContext& context) {
+  BringTemplateIn(templateBook, context);
+  wb::Workbook& report = context.report;
+  if (wb::ReadNamedInt(context.project, "System") == 0 &&
+      wb::ReadNamedNumber(context.project, "SimplifiedAngle") <= 25)
+    for (int row = 45; row <= 59; ++row) report.SetRowHidden(row, true);
+  ShowFirstSheet(report);
+}
+
+void BuildSolidSigns(const wb::Workbook& templateBook, const BuildContext& context) {
+  BringTemplateIn(templateBook, context);
+  wb::Workbook& report = context.report;
+  if (wb::ReadNamedNumber(context.project, "AspectRatio") < 2) {
+    report.SetActiveSheet(wb::ReadNamedInt(context.project, "GustType") == 0 ? 3 : 4);
+    report.HideRows(28, 39, true);
+  }
+  ShowFirstSheet(report);
+}
+
+}  // namespace
+
+bool RunBuilder(ReportBuilder builder, const wb::Workbook& templateBook,
+                const BuildContext& context) {
+  switch (builder) {
+    case TablesWithAreas:
+      BuildTablesWithAreas(templateBook, context);
+      return true;
+    case Plain:
+      BringTemplateIn(templateBook, context);
+      return true;
+    case PlainWithHeading:
+      BringTemplateIn(templateBook, context);
+      WriteSystemHeading(context);
+      return true;
+    case LowRise:
+      BringTemplateIn(templateBook, context);
+      WriteSystemHeading(context);
+      if (!HasParapet(context)) ClearNamedRange(context.report, "IncludeParapet");
+      return true;
+    case Cladding:
+      BringTemplateIn(templateBook, context);
+      if (!HasParapet(context)) context.report.DeleteSheets(4, 1);
+      return true;
+    case SimplifiedMwfrs:
+      BuildSimplifiedMwfrs(templateBook, context);
+      return true;
+    case SolidSigns:
+      BuildSolidSigns(templateBook, context);
+      return true;
+    case Figure617:
+      BuildFigure617(templateBook, context);
+      return true;
+    case Figure621:
+      BuildFigure621(templateBook, context);
+      return true;
+    case Figure622: {
+      const Heights heights = ReadHeights(context.project);
+      BuildTwoTables(templateBook, context, heights, OutlineAreas(context), {});
+      return true;
+    }
+    case Figure623: {
+      const Heights heights = ReadHeights(context.project);
+      BuildTwoTables(templateBook, context, heights, OutlineAreas(context),
+                     {"RatioE", "Table610Ratios"});
+      return true;
+    }
+    case SpecialCase:
+      return BuildSpecialCase(templateBook, context);
+  }
+  return false;
+}
+
+}  // namespace gustline::report
