@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
-#include <optional>
+#include <set>
 
 #include "FormulaCheck.h"
+#include "SheetWords.h"
 #include "core/workbook/CellAddress.h"
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/Formula.h"
@@ -30,14 +30,6 @@ std::string Trimmed(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(" \t") - first + 1));
 }
 
-std::optional<double> ReadNumber(std::string_view text) {
-  double number = 0;
-  const char* end = text.data() + text.size();
-  const auto [ptr, ec] = std::from_chars(text.data(), end, number);
-  if (text.empty() || ec != std::errc() || ptr != end) return std::nullopt;
-  return number;
-}
-
 // "KEY=VALUE" with the value unquoted.
 std::pair<std::string, std::string> SplitAssignment(const std::string& word,
                                                     const SourceLocation& where) {
@@ -53,6 +45,7 @@ void BookAssembler::ReadBook(const std::filesystem::path& bookFile) {
   Frame frame;
   frame.file = bookFile;
   frame.isBook = true;
+  bookDir_ = bookFile.parent_path();
   std::vector<SourceLine> lines = ReadSourceLines(bookFile);
   for (auto& line : lines) line.text = Substitute(line.text, {}, line.where);
   Run(lines, frame);
@@ -64,7 +57,10 @@ void BookAssembler::CheckFormulas() const {
     book_.SetActiveSheet(placed.at.sheet);
     const wb::FormulaHost host{&book_, placed.at.sheet - 1, {placed.at.row, placed.at.col}};
     const auto formula = wb::ParseFormula(book_.CellFormula(placed.at.row, placed.at.col), host);
-    if (auto fault = FormulaFault(*formula, book_); !fault.empty())
+    const auto mayBeUndefined = [this](std::string_view name) {
+      return undefined_.contains(Upper(name));
+    };
+    if (auto fault = FormulaFault(*formula, book_, mayBeUndefined); !fault.empty())
       throw SourceError(placed.where, fault);
   }
   ShowFirstSheet();
@@ -99,28 +95,46 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
   const auto needArgs = [&](std::size_t count, const char* usage) {
     if (words.size() != count) throw SourceError(line.where, std::string("usage: ") + usage);
   };
-  if (keyword == "book" || keyword == "sheet" || keyword == "columns") {
-    if (!frame.isBook) throw SourceError(line.where, "'" + keyword + "' stands in a book file");
-    if (keyword == "book") {
-      needArgs(2, "book NAME");
-      book_.SetBookName(words[1]);
-    } else if (keyword == "sheet") {
-      needArgs(2, "sheet NAME");
-      DeclareSheet(line, words[1]);
-    } else {
-      SetColumns(line, words);
-    }
+  static const std::set<std::string> bookOnly = {"book",    "sheet",        "columns",  "page",
+                                                 "library", "default-font", "undefined"};
+  if (bookOnly.contains(keyword) && !frame.isBook)
+    throw SourceError(line.where, "'" + keyword + "' stands in a book file");
+  if (keyword == "book") {
+    needArgs(2, "book NAME");
+    book_.SetBookName(words[1]);
+  } else if (keyword == "sheet") {
+    if (words.size() < 2) throw SourceError(line.where, "usage: sheet NAME");
+    DeclareSheet(line, SheetNameText(Trimmed(line.text.substr(keyword.size()))));
+  } else if (keyword == "columns") {
+    SetColumns(line, words);
+  } else if (keyword == "page") {
+    SetPage(line, words);
+  } else if (keyword == "library") {
+    AddLibrary(line, words, frame);
+  } else if (keyword == "default-font") {
+    SetDefaultFont(line, words);
+  } else if (keyword == "undefined") {
+    AllowUndefined(line, words);
+  } else if (keyword == "style") {
+    SetStyle(line, words, frame);
+  } else if (keyword == "hide") {
+    HideRows(line, words, frame);
   } else if (keyword == "rows") {
     if (frame.isBook) {
-      needArgs(2, "rows SHEET");
-      frame.sheet = SheetNumber(line.where, words[1]);
+      auto sheetWords = words;
+      JoinSheetWord(sheetWords, 1, [this](std::string_view name) { return IsSheet(name); });
+      if (sheetWords.size() != 2) throw SourceError(line.where, "usage: rows SHEET");
+      frame.sheet = SheetNumber(line.where, SheetNameText(sheetWords[1]));
     } else {
       needArgs(1, "rows");
     }
     section = Section::Rows;
   } else if (keyword == "grid") {
-    needArgs(2, frame.isBook ? "grid SHEET!CELL" : "grid CELL");
-    const Placement start = Locate(line.where, words[1], frame, &grid.row, &grid.col);
+    auto cellWords = words;
+    if (frame.isBook) JoinQualifiedWord(cellWords, 1);
+    if (cellWords.size() != 2)
+      throw SourceError(line.where, frame.isBook ? "usage: grid SHEET!CELL" : "usage: grid CELL");
+    const Placement start = Locate(line.where, cellWords[1], frame, &grid.row, &grid.col);
     if (frame.isBook) frame.sheet = start.sheet;
     section = Section::Grid;
   } else if (keyword == "name") {
@@ -134,27 +148,23 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
   }
 }
 
-void BookAssembler::Include(const SourceLine& line, const std::vector<std::string>& words,
+void BookAssembler::Include(const SourceLine& line, std::vector<std::string> words,
                             const Frame& outer) {
+  if (outer.isBook) JoinQualifiedWord(words, 3);
   if (words.size() < 4 || words[2] != "at" || (words.size() > 4 && words[4] != "with"))
     throw SourceError(line.where, "usage: include BLOCK at CELL [with NAME=VALUE ...]");
   if (outer.depth >= kMaxIncludeDepth)
     throw SourceError(line.where, "includes nest too deep; does a block include itself?");
 
   Frame inner;
-  inner.file = outer.file.parent_path() / (words[1] + ".cells");
+  inner.file = FindBlock(line, words[1], outer);
   const Placement anchor = Locate(line.where, words[3], outer);
   inner.sheet = anchor.sheet;
   inner.anchorRow = anchor.row;
   inner.anchorCol = anchor.col;
   inner.depth = outer.depth + 1;
 
-  std::vector<SourceLine> lines;
-  try {
-    lines = ReadSourceLines(inner.file);
-  } catch (const SourceError&) {
-    throw SourceError(line.where, "no block '" + words[1] + "' (" + inner.file.string() + ")");
-  }
+  const std::vector<SourceLine> lines = ReadSourceLines(inner.file);
 
   std::map<std::string, std::string> params;
   std::map<std::string, SourceLocation> required;
@@ -189,6 +199,19 @@ void BookAssembler::Include(const SourceLine& line, const std::vector<std::strin
   Run(body, inner);
 }
 
+std::filesystem::path BookAssembler::FindBlock(const SourceLine& line, const std::string& block,
+                                               const Frame& outer) const {
+  std::vector<std::filesystem::path> folders = {outer.file.parent_path(), bookDir_};
+  folders.insert(folders.end(), libraries_.begin(), libraries_.end());
+  for (const auto& folder : folders) {
+    const auto file = folder / (block + ".cells");
+    if (std::filesystem::is_regular_file(file)) return file;
+  }
+  throw SourceError(line.where, "no block '" + block + "' (" +
+                                    (outer.file.parent_path() / (block + ".cells")).string() +
+                                    " or the book's folder and libraries)");
+}
+
 void BookAssembler::DeclareSheet(const SourceLine& line, const std::string& name) {
   if (book_.FindSheet(name) != 0 && declaredSheets_ > 0)
     throw SourceError(line.where, "sheet '" + name + "' is declared twice");
@@ -199,17 +222,22 @@ void BookAssembler::DeclareSheet(const SourceLine& line, const std::string& name
   ++declaredSheets_;
 }
 
-void BookAssembler::SetColumns(const SourceLine& line, const std::vector<std::string>& words) {
-  if (words.size() < 3) throw SourceError(line.where, "usage: columns SHEET COLUMN=WIDTH ...");
-  const int sheet = SheetNumber(line.where, words[1]);
-  book_.SetActiveSheet(sheet);
-  for (std::size_t i = 2; i < words.size(); ++i) {
-    const auto [letters, widthText] = SplitAssignment(words[i], line.where);
-    const auto area = wb::ParseAreaText(letters + "1");
-    const auto width = ReadNumber(widthText);
-    if (!area || !width || *width <= 0)
-      throw SourceError(line.where, "expected COLUMN=WIDTH, not '" + words[i] + "'");
-    book_.SetColumnWidth(area->firstCol, area->firstCol, *width);
+void BookAssembler::AddLibrary(const SourceLine& line, const std::vector<std::string>& words,
+                               const Frame& frame) {
+  if (words.size() != 2) throw SourceError(line.where, "usage: library PATH");
+  const auto folder = frame.file.parent_path() / Unquote(words[1]);
+  if (!std::filesystem::is_directory(folder))
+    throw SourceError(line.where, "no library folder '" + folder.string() + "'");
+  libraries_.push_back(folder);
+}
+
+void BookAssembler::AllowUndefined(const SourceLine& line, const std::vector<std::string>& words) {
+  if (words.size() < 2) throw SourceError(line.where, "usage: undefined NAME ...");
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    if (const auto found = names_.find(Upper(words[i])); found != names_.end())
+      throw SourceError(line.where,
+                        "name '" + words[i] + "' is defined at " + found->second.Text());
+    undefined_.emplace(Upper(words[i]), line.where);
   }
 }
 
@@ -221,28 +249,10 @@ void BookAssembler::DefineNameDirective(const SourceLine& line, const Frame& fra
   const std::string range = Trimmed(rest.substr(equals + 1));
   if (name.empty()) return;
 
-  std::string areaText = range;
-  int sheet = frame.sheet;
-  if (const auto bang = range.find('!'); bang != std::string::npos) {
-    if (!frame.isBook)
-      throw SourceError(line.where, "a block names ranges on its own sheet, without 'Sheet!'");
-    sheet = SheetNumber(line.where, range.substr(0, bang));
-    areaText = range.substr(bang + 1);
-  }
-  auto area = wb::ParseAreaText(areaText);
-  if (!area) throw SourceError(line.where, "'" + range + "' is not a range");
-  if (sheet == 0) throw SourceError(line.where, "the range needs its sheet: Sheet!" + range);
-  if (!frame.isBook) {
-    const int rowShift = frame.anchorRow - 1;
-    const int colShift = frame.anchorCol - 1;
-    area->firstRow += rowShift;
-    area->lastRow += rowShift;
-    area->firstCol += colShift;
-    area->lastCol += colShift;
-    if (area->lastRow > wb::kMaxRow || area->lastCol > wb::kMaxCol)
-      throw SourceError(line.where, "the range falls off the sheet at this anchor");
-  }
-  DefineName(name, book_.SheetName(sheet) + "!" + wb::AreaText(*area, true), line.where);
+  const PlacedArea placed = LocateArea(line.where, range, frame);
+  DefineName(name,
+             QuotedSheetName(book_.SheetName(placed.sheet)) + "!" + wb::AreaText(placed.area, true),
+             line.where);
 }
 
 void BookAssembler::PlaceRow(const SourceLine& line, const Frame& frame) {
@@ -286,7 +296,7 @@ void BookAssembler::PlaceRow(const SourceLine& line, const Frame& frame) {
     PutText({at.sheet, at.row, at.col + 1}, fields[5].text, line.where);
 
   const std::string cellText =
-      book_.SheetName(at.sheet) + "!" + wb::CellRefText(at.row, at.col, true);
+      QuotedSheetName(book_.SheetName(at.sheet)) + "!" + wb::CellRefText(at.row, at.col, true);
   for (const auto& name : SplitWords(fields[2].text, line.where))
     if (name != "-") DefineName(name, cellText, line.where);
 }
@@ -308,18 +318,10 @@ void BookAssembler::PlaceGridRow(const SourceLine& line, const Frame& frame, Gri
 BookAssembler::Placement BookAssembler::Locate(const SourceLocation& where, const std::string& text,
                                                const Frame& frame, int* authoredRow,
                                                int* authoredCol) const {
-  int sheet = frame.sheet;
-  std::string cellText = text;
-  if (const auto bang = text.find('!'); bang != std::string::npos) {
-    if (!frame.isBook)
-      throw SourceError(where, "a block places cells relative to its anchor, without 'Sheet!'");
-    sheet = SheetNumber(where, text.substr(0, bang));
-    cellText = text.substr(bang + 1);
-  }
+  const auto [sheet, cellText] = SplitSheet(where, text, frame);
   const auto area = wb::ParseAreaText(cellText);
   if (!area || area->firstRow != area->lastRow || area->firstCol != area->lastCol)
     throw SourceError(where, "'" + text + "' is not a cell");
-  if (sheet == 0) throw SourceError(where, "the cell needs its sheet: Sheet!" + text);
   if (authoredRow) *authoredRow = area->firstRow;
   if (authoredCol) *authoredCol = area->firstCol;
   const Placement at{sheet, frame.anchorRow + area->firstRow - 1,
@@ -329,16 +331,49 @@ BookAssembler::Placement BookAssembler::Locate(const SourceLocation& where, cons
   return at;
 }
 
+BookAssembler::PlacedArea BookAssembler::LocateArea(const SourceLocation& where,
+                                                    const std::string& text,
+                                                    const Frame& frame) const {
+  const auto [sheet, areaText] = SplitSheet(where, text, frame);
+  auto area = wb::ParseAreaText(areaText);
+  if (!area) throw SourceError(where, "'" + text + "' is not a range");
+  area->firstRow += frame.anchorRow - 1;
+  area->lastRow += frame.anchorRow - 1;
+  area->firstCol += frame.anchorCol - 1;
+  area->lastCol += frame.anchorCol - 1;
+  if (area->lastRow > wb::kMaxRow || area->lastCol > wb::kMaxCol)
+    throw SourceError(where, "'" + text + "' falls off the sheet at this anchor");
+  return {sheet, *area};
+}
+
+std::pair<int, std::string> BookAssembler::SplitSheet(const SourceLocation& where,
+                                                      const std::string& text,
+                                                      const Frame& frame) const {
+  const auto bang = text.rfind('!');
+  if (bang == std::string::npos) {
+    if (frame.sheet == 0) throw SourceError(where, "'" + text + "' needs its sheet: Sheet!" + text);
+    return {frame.sheet, text};
+  }
+  if (!frame.isBook)
+    throw SourceError(where, "a block places cells relative to its anchor, without 'Sheet!'");
+  return {SheetNumber(where, SheetNameText(text.substr(0, bang))), text.substr(bang + 1)};
+}
+
 int BookAssembler::SheetNumber(const SourceLocation& where, const std::string& name) const {
-  const int sheet = book_.FindSheet(name);
-  if (sheet == 0 || declaredSheets_ == 0)
-    throw SourceError(where, "no sheet '" + name + "' is declared");
-  return sheet;
+  if (!IsSheet(name)) throw SourceError(where, "no sheet '" + name + "' is declared");
+  return book_.FindSheet(name);
+}
+
+bool BookAssembler::IsSheet(std::string_view name) const {
+  return declaredSheets_ > 0 && book_.FindSheet(name) != 0;
 }
 
 void BookAssembler::Claim(const Placement& at, const SourceLocation& where) {
   const auto [found, added] = written_.emplace(std::tuple{at.sheet, at.row, at.col}, where);
-  if (added) return;
+  if (added) {
+    if (defaultStyle_) book_.SetCellStyle(at.row, at.col, StyleOf(at));
+    return;
+  }
   throw SourceError(where, "cell " + book_.SheetName(at.sheet) + "!" +
                                wb::CellRefText(at.row, at.col, false) + " is already written at " +
                                found->second.Text());
@@ -386,14 +421,23 @@ void BookAssembler::PutEntry(const Placement& at, int authoredRow, int authoredC
 }
 
 void BookAssembler::MakeBold(const Placement& at) {
-  book_.SetActiveSheet(at.sheet);
-  wb::CellStyle style = book_.GetCellStyle(at.row, at.col);
+  wb::CellStyle style = StyleOf(at);
   style.font.bold = true;
   book_.SetCellStyle(at.row, at.col, style);
 }
 
+wb::CellStyle BookAssembler::StyleOf(const Placement& at) const {
+  book_.SetActiveSheet(at.sheet);
+  const wb::CellStyle& own = book_.GetCellStyle(at.row, at.col);
+  if (defaultStyle_ && own == wb::CellStyle{}) return *defaultStyle_;
+  return own;
+}
+
 void BookAssembler::DefineName(const std::string& name, const std::string& refersTo,
                                const SourceLocation& where) {
+  if (const auto allowed = undefined_.find(Upper(name)); allowed != undefined_.end())
+    throw SourceError(where,
+                      "name '" + name + "' is declared undefined at " + allowed->second.Text());
   const auto [found, added] = names_.emplace(Upper(name), where);
   if (!added)
     throw SourceError(where, "name '" + name + "' is already defined at " + found->second.Text());

@@ -2,11 +2,14 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
 
 #include "SourceText.h"
+#include "core/workbook/CellAddress.h"
+#include "core/workbook/CellStyle.h"
 
 namespace gustline::wb {
 class Workbook;
@@ -43,6 +46,11 @@ class BookAssembler {
     int row = 0;
     int col = 0;
   };
+  // A range of a sheet, as a sheet cell range.
+  struct PlacedArea {
+    int sheet = 0;
+    wb::Area area;
+  };
   // The next grid row, as authored in its file.
   struct GridCursor {
     int row = 1;
@@ -58,9 +66,24 @@ class BookAssembler {
   void Run(const std::vector<SourceLine>& lines, const Frame& frame);
   void Directive(const SourceLine& line, const std::vector<std::string>& words, Frame& frame,
                  Section& section, GridCursor& grid);
-  void Include(const SourceLine& line, const std::vector<std::string>& words, const Frame& outer);
+  void Include(const SourceLine& line, std::vector<std::string> words, const Frame& outer);
+  // The block file of an include: beside the including file, beside the book, or in a
+  // library folder, the first found.
+  std::filesystem::path FindBlock(const SourceLine& line, const std::string& block,
+                                  const Frame& outer) const;
   void DeclareSheet(const SourceLine& line, const std::string& name);
-  void SetColumns(const SourceLine& line, const std::vector<std::string>& words);
+  void AddLibrary(const SourceLine& line, const std::vector<std::string>& words,
+                  const Frame& frame);
+  void AllowUndefined(const SourceLine& line, const std::vector<std::string>& words);
+
+  // The layout directives (BookLayout.cpp).
+  void SetColumns(const SourceLine& line, std::vector<std::string> words);
+  void SetStyle(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
+  void HideRows(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
+  void SetPage(const SourceLine& line, std::vector<std::string> words);
+  void SetDefaultFont(const SourceLine& line, const std::vector<std::string>& words);
+  // The sheets a 'columns' or 'page' line acts on: the one it names, or all for "*".
+  std::vector<int> SheetsNamed(const SourceLine& line, std::vector<std::string>& words);
   void DefineNameDirective(const SourceLine& line, const Frame& frame);
   void PlaceRow(const SourceLine& line, const Frame& frame);
   void PlaceGridRow(const SourceLine& line, const Frame& frame, GridCursor& grid);
@@ -68,7 +91,15 @@ class BookAssembler {
   // A cell text of the frame ("B4", or "Sheet3!B4" in a book) as a sheet cell.
   Placement Locate(const SourceLocation& where, const std::string& text, const Frame& frame,
                    int* authoredRow = nullptr, int* authoredCol = nullptr) const;
+  // A range text of the frame ("B4:C6", or "Sheet3!B4:C6" in a book) as a sheet range.
+  PlacedArea LocateArea(const SourceLocation& where, const std::string& text,
+                        const Frame& frame) const;
+  // The sheet and its text after the "!" of a book's "Sheet3!B4" or "'Page 1'!B4"; in a
+  // block, the frame's sheet and the whole text.
+  std::pair<int, std::string> SplitSheet(const SourceLocation& where, const std::string& text,
+                                         const Frame& frame) const;
   int SheetNumber(const SourceLocation& where, const std::string& name) const;
+  bool IsSheet(std::string_view name) const;
 
   void Claim(const Placement& at, const SourceLocation& where);
   void PutText(const Placement& at, const std::string& text, const SourceLocation& where);
@@ -81,13 +112,19 @@ class BookAssembler {
   void PutEntry(const Placement& at, int authoredRow, int authoredCol, const Field& entry,
                 const SourceLocation& where);
   void MakeBold(const Placement& at);
+  // The style a cell starts from: its own, or the book's default font while it has none.
+  wb::CellStyle StyleOf(const Placement& at) const;
   void DefineName(const std::string& name, const std::string& refersTo,
                   const SourceLocation& where);
 
   wb::Workbook& book_;
   int declaredSheets_ = 0;
   std::map<std::tuple<int, int, int>, SourceLocation> written_;
-  std::map<std::string, SourceLocation> names_;  // upper-cased
+  std::map<std::string, SourceLocation> names_;      // upper-cased
+  std::map<std::string, SourceLocation> undefined_;  // upper-cased
+  std::filesystem::path bookDir_;
+  std::vector<std::filesystem::path> libraries_;
+  std::optional<wb::CellStyle> defaultStyle_;
   std::vector<PlacedFormula> formulas_;
 };
 

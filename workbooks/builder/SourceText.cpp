@@ -1,5 +1,6 @@
 #include "SourceText.h"
 
+#include <charconv>
 #include <fstream>
 
 namespace gustline::books {
@@ -112,6 +113,14 @@ std::string Unquote(std::string_view word) {
     if (word[i] == '"' && word[i + 1] == '"') ++i;
   }
   return text;
+}
+
+std::optional<double> ReadNumber(std::string_view text) {
+  double number = 0;
+  const char* end = text.data() + text.size();
+  const auto [ptr, ec] = std::from_chars(text.data(), end, number);
+  if (text.empty() || ec != std::errc() || ptr != end) return std::nullopt;
+  return number;
 }
 
 std::string Substitute(std::string_view text, const std::map<std::string, std::string>& params,

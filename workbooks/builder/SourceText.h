@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -50,6 +51,9 @@ std::vector<std::string> SplitWords(std::string_view text, const SourceLocation&
 
 // A word without its surrounding double quotes, if it has them.
 std::string Unquote(std::string_view word);
+
+// A number written in full ("1.5", "-0.18", "1e3"); nullopt for anything else.
+std::optional<double> ReadNumber(std::string_view text);
 
 // Replaces every {NAME} by its parameter value; an unknown name is an error.
 std::string Substitute(std::string_view text, const std::map<std::string, std::string>& params,
