@@ -44,11 +44,13 @@ std::vector<TemplateId> BuildCatalog() {
   return all;
 }
 
-bool Holds(const TemplateId& id) {
+// The catalog's entry of a name on a container, spelled as the catalog spells it.
+const TemplateId* FindEntry(const TemplateId& id) {
   const auto& all = AllTemplates();
-  return std::any_of(all.begin(), all.end(), [&id](const TemplateId& entry) {
+  const auto found = std::find_if(all.begin(), all.end(), [&id](const TemplateId& entry) {
     return entry.container == id.container && wb::EqualNoCase(entry.name, id.name);
   });
+  return found == all.end() ? nullptr : &*found;
 }
 
 }  // namespace
@@ -102,16 +104,17 @@ std::string TemplatePath(std::string_view applicationPath, const TemplateId& id)
 
 std::unique_ptr<wb::Workbook> LoadTemplate(std::string_view applicationPath, const TemplateId& id) {
   const std::string where = "Container" + std::string(ContainerLetter(id.container));
-  if (!Holds(id))
+  const TemplateId* entry = FindEntry(id);
+  if (entry == nullptr)
     throw wb::FacilityError(wb::errc::kTemplateMissing,
                             "There is no report template " + id.name + " on " + where);
-  const std::string path = TemplatePath(applicationPath, id);
+  const std::string path = TemplatePath(applicationPath, *entry);
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error))
     throw wb::FacilityError(
         wb::errc::kTemplateMissing,
         "The report template " + id.name + " of " + where + " is not built yet (" + path + ")");
-  auto book = std::make_unique<wb::Workbook>(id.name);
+  auto book = std::make_unique<wb::Workbook>(entry->name);
   book->ReadWorkbook(path);
   return book;
 }

@@ -1,0 +1,114 @@
+// gustline-cli report: the report of a project, built as the program builds it, written by
+// the output options that register themselves (ReportWriters.h); --json is this file's.
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "CliCommand.h"
+#include "ProjectOptions.h"
+#include "ReportWriters.h"
+#include "core/Application.h"
+#include "core/ApplicationView.h"
+#include "core/ProcessState.h"
+#include "core/Prompt.h"
+#include "core/Settings.h"
+#include "core/StartUp.h"
+#include "core/workbook/AtomicFile.h"
+#include "core/workbook/FacilityError.h"
+#include "core/workbook/NamedCells.h"
+#include "core/workbook/Value.h"
+#include "core/workbook/Workbook.h"
+#include "report/ReportGenerator.h"
+#include "report/ReportJson.h"
+
+namespace gustline::cli {
+namespace {
+
+int WriteJson(const ReportOutput& output, const std::string& path) {
+  const std::string json = report::ReportJson(output.report, output.templateName);
+  if (path == "-") {
+    std::cout << json;
+  } else {
+    try {
+      wb::AtomicFile file(path);
+      file.Stream() << json;
+      file.Commit();
+    } catch (const wb::FacilityError& error) {
+      std::cerr << "gustline-cli report: " << error.what() << '\n';
+      return kExitUsage;
+    }
+  }
+  return output.Created() ? kExitOk : kExitFailed;
+}
+
+const bool jsonRegistered = RegisterReportWriter(
+    "--json", "--json FILE   the report's cells as JSON ('-': standard output)", WriteJson);
+
+// The project as OpenProject gives it, read into the program's own `WindData`, so that the
+// report's links find it; with the late names that every start defines.
+void ReadProject(wb::Workbook& project, const ProjectOptions& options) {
+  project.ReadWorkbook(options.projectPath.value_or(CarriedProjectPath(ProgramFolder())));
+  RecreateLateNames(project);
+  for (const auto& [name, value] : options.sets) {
+    if (const auto number = wb::ReadNumber(value))
+      wb::WriteNamedNumber(project, name, *number);
+    else
+      wb::WriteNamedText(project, name, value);
+  }
+  project.Recalc();
+}
+
+void PrintWriterUsages() {
+  std::cerr << "output options:\n";
+  for (const std::string& usage : ReportWriterUsages()) std::cerr << "  " << usage << '\n';
+}
+
+int RunReport(const std::vector<std::string>& args) {
+  const auto options = ParseProjectOptions(args);
+  if (!options) return kExitUsage;
+  std::vector<std::pair<ReportWriterFn, std::string>> writers;
+  for (std::size_t i = 0; i < options->rest.size(); i += 2) {
+    const std::string& option = options->rest[i];
+    const ReportWriterFn write = FindReportWriter(option);
+    if (write == nullptr || i + 1 >= options->rest.size()) {
+      std::cerr << "gustline-cli report: " << (write ? "no file for " : "unknown option ") << option
+                << '\n';
+      PrintWriterUsages();
+      return kExitUsage;
+    }
+    writers.emplace_back(write, options->rest[i + 1]);
+  }
+
+  ProcessState state;
+  NullView view;
+  StderrPrompt prompt;
+  MemorySettings settings;
+  report::ReportGenerator generator;
+  Application app{state, view, prompt, settings, generator};
+  state.applicationPath = ProgramFolder();
+  try {
+    ReadProject(state.ProjectWorkbook(), *options);
+  } catch (const wb::FacilityError& error) {
+    std::cerr << "gustline-cli report: " << error.what() << '\n';
+    return kExitUsage;
+  }
+  generator.CreateReport(app);
+
+  const ReportOutput output{app, state.ReportWorkbook(), generator.TemplateName()};
+  if (writers.empty())
+    std::cout << (output.Created() ? output.templateName : "no report created") << '\n';
+  int status = output.Created() ? kExitOk : kExitFailed;
+  for (const auto& [write, path] : writers) status = std::max(status, write(output, path));
+  return status;
+}
+
+const bool registered = RegisterCommand(
+    "report",
+    "report [--project FILE] [--set NAME=VALUE]... [--json FILE] [--OPTION FILE]...   build "
+    "the report and write it",
+    RunReport);
+
+}  // namespace
+}  // namespace gustline::cli

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace gustline::wb {
+class Workbook;
+}
+
+namespace gustline::report {
+
+// The report as JSON (docs/report-json.md): the template, then per sheet its name, hidden
+// rows and every cell that holds something, with its reference, value and display text.
+// An empty template name writes a report that was not created. The active sheet is kept.
+std::string ReportJson(wb::Workbook& report, std::string_view templateName);
+
+// A JSON string literal, quotes included.
+std::string JsonString(std::string_view text);
+
+}  // namespace gustline::report
