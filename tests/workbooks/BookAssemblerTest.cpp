@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "BookAssembler.h"
+#include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/Workbook.h"
 
@@ -101,6 +102,12 @@ TEST_F(BookAssemblerTest, FaultsNameTheirFileAndLine) {
       {"row outside a section", "| 1 |\n", "", "block.cells:1: error: a table row outside"},
       {"block that includes itself", "include block at A2\n", "",
        "block.cells:1: error: includes nest"},
+      {"unknown style key", "style A1:B2 bolder\n", "", "block.cells:1: error: unknown style key"},
+      {"line style out of range", "style A1 box=7\n", "",
+       "block.cells:1: error: 'box' is a line style from 0 to 6"},
+      {"colour without hash", "style A1 fill=FF0000\n", "",
+       "block.cells:1: error: 'fill' is a colour #RRGGBB"},
+      {"rows upside down", "hide 9:5\n", "", "block.cells:1: error: '9:5' is not rows"},
   };
   for (const auto& c : cases) {
     book_.ClearAll();
@@ -112,6 +119,134 @@ TEST_F(BookAssemblerTest, FaultsNameTheirFileAndLine) {
     EXPECT_NE(at, std::string::npos) << c.what << ": " << fault;
     EXPECT_EQ(fault.rfind(dir_.string(), 0), 0u) << c.what << ": " << fault;
   }
+}
+
+// Styles, hidden rows, widths and print setup as the program reads them back from the file.
+TEST_F(BookAssemblerTest, LayoutSurvivesTheNativeFile) {
+  fs::create_directories(dir_ / "common");
+  Write("book.book",
+        "book Test\nlibrary common\ndefault-font \"Times New Roman\" 10\n"
+        "sheet Page 1\nsheet Page 2\n"
+        "include heading at Page 1!A1 with TITLE=\"Design Wind Pressure, p\" NOTE=\n"
+        "include heading at 'Page 2'!A11 with TITLE=Forces NOTE=\"\"\n"
+        "style Page 1!B4:D6 format=\"0.000\" border=1\n"
+        "style Page 1!B4:D6 box=2 align=right\n"
+        "style 'Page 1'!C5 bold=0 fill=#FFFF00\n"
+        "hide Page 2!45:59\n"
+        "columns * A=30\ncolumns Page 2 B=12\n"
+        "page * margins=0.5,0,0.75,0.5 footer=\"&A\" fit=1,1\n"
+        "page Page 2 landscape scale=80\n");
+  Write("common/heading.cells",
+        "param TITLE\nparam NOTE=x\n"
+        "grid A1\n| \"{TITLE}\" |\n| \"[{NOTE}]\" |\n"
+        "style A1 bold size=14\nhide 3:4\n");
+  Assemble();
+  const auto file = (dir_ / "book.gwb").string();
+  book_.WriteWorkbook(file, wb::FileType::Native);
+  wb::Workbook read("Other");
+  read.ReadWorkbook(file);
+
+  ASSERT_EQ(read.FindSheet("Page 2"), 2);
+  const wb::Sheet& page1 = read.GetSheet(1);
+  const wb::Sheet& page2 = read.GetSheet(2);
+  read.SetActiveSheet(1);
+  EXPECT_EQ(read.CellText(1, 1), "Design Wind Pressure, p");
+  EXPECT_EQ(read.CellText(2, 1), "[]");
+  read.SetActiveSheet(2);
+  EXPECT_EQ(read.CellText(11, 1), "Forces");
+  EXPECT_EQ(page1.HiddenRows(), (std::vector<int>{3, 4}));
+  EXPECT_EQ(page2.HiddenRows(),
+            (std::vector<int>{13, 14, 45, 46, 47, 48, 49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59}));
+  EXPECT_EQ(page1.ColumnWidth(1), 30);
+  EXPECT_EQ(page2.ColumnWidth(1), 30);
+  EXPECT_EQ(page2.ColumnWidth(2), 12);
+  EXPECT_EQ(page1.ColumnWidth(2), wb::Sheet::kDefaultColumnWidth);
+
+  EXPECT_EQ(page1.Print().footer, "&A");
+  EXPECT_EQ(page1.Print().leftMargin, 0.5);
+  EXPECT_EQ(page1.Print().rightMargin, 0);
+  EXPECT_EQ(page1.Print().topMargin, 0.75);
+  EXPECT_EQ(page1.Print().bottomMargin, 0.5);
+  EXPECT_TRUE(page1.Print().fitToPages);
+  EXPECT_FALSE(page1.Print().landscape);
+  EXPECT_TRUE(page2.Print().landscape);
+  EXPECT_FALSE(page2.Print().fitToPages);
+  EXPECT_EQ(page2.Print().scale, 80);
+  EXPECT_EQ(page2.Print().footer, "&A");
+
+  // Borders of B4:D6: thin on each cell, medium on the outline; C5 lost its bold only.
+  struct StyleCase {
+    int row, col;
+    int left, right, top, bottom;
+    bool bold;
+    std::uint32_t fill;
+  };
+  const StyleCase cases[] = {
+      {4, 2, 2, 1, 2, 1, false, 0xFFFFFF},
+      {5, 3, 1, 1, 1, 1, false, 0xFFFF00},
+      {6, 4, 1, 2, 1, 2, false, 0xFFFFFF},
+  };
+  read.SetActiveSheet(1);
+  for (const auto& c : cases) {
+    const wb::CellStyle& style = read.GetCellStyle(c.row, c.col);
+    const auto where = "row " + std::to_string(c.row) + " col " + std::to_string(c.col);
+    EXPECT_EQ(style.left.style, c.left) << where;
+    EXPECT_EQ(style.right.style, c.right) << where;
+    EXPECT_EQ(style.top.style, c.top) << where;
+    EXPECT_EQ(style.bottom.style, c.bottom) << where;
+    EXPECT_EQ(style.font.bold, c.bold) << where;
+    EXPECT_EQ(style.fill, c.fill) << where;
+    EXPECT_EQ(style.numberFormat, "0.000") << where;
+    EXPECT_EQ(style.hAlign, wb::HAlign::Right) << where;
+    EXPECT_EQ(style.font.name, "Times New Roman") << where;
+  }
+  const wb::CellStyle& title = read.GetCellStyle(1, 1);
+  EXPECT_TRUE(title.font.bold);
+  EXPECT_EQ(title.font.size, 14);
+  EXPECT_EQ(title.font.name, "Times New Roman");
+  EXPECT_EQ(read.GetCellStyle(2, 1).font.name, "Times New Roman");
+}
+
+struct LinkCase {
+  const char* formula;
+  const char* expected;  // part of the fault, or empty when it builds
+};
+
+// A template's links are judged against the books given with --link, which are open.
+TEST_F(BookAssemblerTest, LinksNeedTheLinkedBookToHoldTheNameOrSheet) {
+  wb::Workbook data("Data");
+  data.SetSheetName(1, "Sheet1");
+  data.SetCellNumber(1, 2, 60);
+  data.SetDefinedName("Height", "Sheet1!$B$1");
+  const LinkCase cases[] = {
+      {"=[Data]Sheet1!Height*2", ""},
+      {"=[DATA]sheet3!Height", ""},
+      {"=[Data]Sheet1!B1", ""},
+      {"=IF(1,2,Category)", ""},
+      {"=[Data]Sheet1!Width", "book.book:5: error: the book 'Data' does not define 'Width'"},
+      {"=[Data]Sheet9!B1", "book.book:5: error: the book 'Data' has no sheet 'Sheet9'"},
+      {"=[WindData]Sheet1!Height", "book.book:5: error: no linked book 'WindData'"},
+      {"=Kind", "book.book:5: error: name 'Kind' is not defined"},
+  };
+  for (const auto& c : cases) {
+    book_.ClearAll();
+    Write("book.book", std::string("book Test\nundefined Category\nsheet Main\ngrid Main!A1\n| ") +
+                           c.formula + " |\n");
+    const std::string fault = Fault();
+    if (*c.expected == '\0') {
+      EXPECT_EQ(fault, "") << c.formula;
+      continue;
+    }
+    EXPECT_NE(fault.find(c.expected), std::string::npos) << c.formula << ": " << fault;
+  }
+  book_.Recalc();
+  book_.SetActiveSheet(1);
+  EXPECT_EQ(book_.CellText(1, 1), "#NAME?") << "the last case reads an undefined name";
+
+  Write("book.book", "book Test\nundefined Category\nsheet Main\nname Category = Main!A1\n");
+  book_.ClearAll();
+  EXPECT_NE(Fault().find("book.book:4: error: name 'Category' is declared undefined at"),
+            std::string::npos);
 }
 
 }  // namespace
