@@ -1,6 +1,7 @@
 #include <fstream>
 
 #include "AtomicFile.h"
+#include "Biff5Writer.h"
 #include "FacilityError.h"
 #include "NativeFormat.h"
 #include "TextFormat.h"
@@ -24,11 +25,13 @@ FileType Workbook::ReadWorkbook(const std::string& path) {
 }
 
 void Workbook::WriteWorkbook(const std::string& path, FileType type) {
-  if (type != FileType::Native && type != FileType::Text)
+  if (type != FileType::Native && type != FileType::Text && type != FileType::Excel5)
     throw FacilityError(errc::kFileType, "This file type cannot be written yet");
   AtomicFile file(path);
   if (type == FileType::Native)
     WriteNative(*this, file.Stream());
+  else if (type == FileType::Excel5)
+    WriteBiff5(*this, file.Stream());
   else
     WriteText(*this, file.Stream());
   file.Commit();
