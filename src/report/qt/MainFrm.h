@@ -1,0 +1,119 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QString>
+#include <array>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "report/qt/RepeatCommand.h"
+
+class QAction;
+class QActionGroup;
+class QComboBox;
+class QLabel;
+class QMenu;
+class QProgressBar;
+class QStackedWidget;
+class QToolBar;
+
+namespace gustline {
+
+struct Application;
+class RecentFiles;
+
+// The main window: menus, the popup of the report, Toolbar1 with cboZoom, the report view
+// and StatusBar1 with its five panels. Its commands run on the Application given; the
+// window's close request becomes File Exit.
+class MainFrm : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainFrm(QWidget* parent = nullptr);
+  ~MainFrm() override;
+
+  void SetApplication(Application* app) { app_ = app; }
+
+  // A menu entry, popup entry or toolbar button by its object name; nullptr when unknown.
+  QAction* Command(std::string_view objectName) const;
+  QMenu* PopupMenu() const { return popup_; }
+  // Runs a command as the user would: stores it as the last command when it stores one,
+  // then runs its handler.
+  void RunCommand(std::string_view objectName);
+  const RepeatCommand& Repeat() const { return repeat_; }
+
+  // Status panels 1 to 5; before the panel style panel 1 alone is shown.
+  void SetStatusPanel(int panel, const QString& text);
+  QString StatusPanel(int panel) const;
+  void SetStatusPanelStyle();
+  void SetProgressVisible(bool visible);
+  void SetProgress(int value);
+
+  // The zoom menu entry checked and cboZoom, index 0 to 7 (5 is 100%); both always agree.
+  void ApplyZoom(int index);
+  int ZoomIndex() const { return zoomIndex_; }
+  int ZoomPercent() const;
+  void SetToolbarVisible(bool visible);
+  bool ToolbarVisible() const;
+  void SetStatusbarVisible(bool visible);
+  bool StatusbarVisible() const;
+  void ShowRecentFiles(const RecentFiles& recentFiles);
+  void HideToolsMenu();
+  void SetFullScreenView(bool fullScreen);
+
+  // The area between the bars where the report stands.
+  QStackedWidget* ReportArea() const { return reportArea_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  struct Entry {
+    QAction* action = nullptr;
+    bool storesCommand = true;
+    std::function<void()> handler;
+  };
+
+  void BuildMenus();
+  void BuildPopup();
+  void BuildToolbar();
+  void BuildStatusBar();
+  QAction* AddEntry(QMenu* menu, const char* name, const char* caption, const char* prompt,
+                    std::function<void()> handler, bool storesCommand = true);
+  void AddAlias(const char* name, const char* caption, const char* target, QMenu* menu);
+  QMenu* AddMenu(QMenu* parent, const char* name, const char* caption);
+  void WatchPrompts(QMenu* menu);
+  void ShowPopup(const QPoint& globalPos);
+
+  // Command handlers.
+  void FileExitCommand();
+  void EditCopy();
+  void RepeatLastCommand();
+  void HelpContents();
+  void RefreshStatusSummary();
+  // frmWindProp at its tab: 0 design equation to 6 internal pressure.
+  void OpenWindProperties(int tab);
+
+  Application* app_ = nullptr;
+  RepeatCommand repeat_;
+  std::map<std::string, Entry, std::less<>> entries_;
+  QMenu* popup_ = nullptr;
+  QToolBar* toolbar_ = nullptr;
+  QComboBox* zoomList_ = nullptr;
+  QActionGroup* zoomGroup_ = nullptr;
+  std::array<QAction*, 8> zoomItems_{};
+  std::array<QAction*, 4> recentItems_{};
+  std::array<QLabel*, 5> panels_{};
+  QProgressBar* progressBar_ = nullptr;
+  QStackedWidget* reportArea_ = nullptr;
+  int zoomIndex_ = 5;
+  bool fullScreenView_ = false;
+  bool toolsMenuVisible_ = true;
+  // What the View menu ticks say; full screen hides the bars without changing them.
+  bool toolbarShown_ = true;
+  bool statusbarShown_ = true;
+};
+
+}  // namespace gustline

@@ -1,0 +1,59 @@
+// The handlers of the main window's own commands; the others call the Parts they name.
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QUrl>
+
+#include "core/Application.h"
+#include "core/FacilityErrorReport.h"
+#include "core/FileExit.h"
+#include "core/ProcessState.h"
+#include "core/Prompt.h"
+#include "core/StatusSummary.h"
+#include "core/workbook/FacilityError.h"
+#include "core/workbook/Workbook.h"
+#include "report/qt/MainFrm.h"
+
+namespace gustline {
+
+void MainFrm::FileExitCommand() {
+  if (!app_ || !FileExit(*app_)) return;
+  hide();
+  QCoreApplication::quit();
+}
+
+void MainFrm::EditCopy() {
+  if (!app_) return;
+  try {
+    app_->state.ReportWorkbook().CopySelection();
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_->prompt, error);
+  }
+}
+
+void MainFrm::RepeatLastCommand() {
+  const std::string_view command = repeat_.Find([this](std::string_view name) {
+    const QAction* action = Command(name);
+    return action ? action->text().toStdString() : std::string();
+  });
+  if (!command.empty()) RunCommand(command);
+}
+
+void MainFrm::HelpContents() {
+  if (!app_) return;
+  const QString manual = QString::fromStdString(app_->state.manualPath);
+  if (QFileInfo::exists(manual) && QDesktopServices::openUrl(QUrl::fromLocalFile(manual))) return;
+  app_->prompt.Show(Message{"Error",
+                            "There is no application associated with the .pdf filename extension.",
+                            PromptIcon::Stop, PromptButtons::Ok});
+}
+
+void MainFrm::RefreshStatusSummary() {
+  if (app_) UpdateStatusSummary(app_->state.ProjectWorkbook(), app_->view);
+}
+
+void MainFrm::OpenWindProperties(int /*tab*/) {
+  RefreshStatusSummary();
+}
+
+}  // namespace gustline

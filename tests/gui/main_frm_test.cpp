@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "GuiApp.h"
+#include "core/Application.h"
+#include "core/ProcessState.h"
+#include "core/Prompt.h"
+#include "core/ReportHook.h"
+#include "core/Settings.h"
+#include "report/qt/MainFrm.h"
+#include "report/qt/QtApplicationView.h"
+
+namespace gustline {
+namespace {
+
+// The window with the parts of an application around it, and a prompt the test answers.
+struct WindowFixture {
+  WindowFixture() {
+    testing::EnsureApplication();
+    window.SetApplication(&app);
+    window.show();
+  }
+  MainFrm window;
+  QtApplicationView view{window};
+  ProcessState state;
+  ScriptedPrompt prompt;
+  MemorySettings settings;
+  NullReportHook report;
+  Application app{state, view, prompt, settings, report};
+};
+
+TEST(MainFrm, ZoomMenuAndZoomListAgree) {
+  WindowFixture fixture;
+  MainFrm& window = fixture.window;
+  auto* zoomList = window.findChild<QComboBox*>(QStringLiteral("cboZoom"));
+  ASSERT_NE(zoomList, nullptr);
+  ASSERT_EQ(zoomList->count(), 8);
+  constexpr int kPercents[] = {25, 50, 75, 80, 90, 100, 125, 150};
+  for (int index = 0; index < 8; ++index) {
+    SCOPED_TRACE(index);
+    const std::string item = "mnuZoomItem(" + std::to_string(index) + ")";
+    EXPECT_EQ(zoomList->itemText(index), window.Command(item)->text());
+    window.Command(item)->trigger();
+    EXPECT_EQ(zoomList->currentIndex(), index);
+    EXPECT_EQ(window.ZoomPercent(), kPercents[index]);
+    const int other = 7 - index;
+    emit zoomList->activated(other);
+    EXPECT_TRUE(window.Command("mnuZoomItem(" + std::to_string(other) + ")")->isChecked());
+    EXPECT_FALSE(window.Command(item)->isChecked() && other != index);
+    EXPECT_EQ(fixture.view.ZoomIndex(), other);
+  }
+}
+
+TEST(MainFrm, CloseAsksTheSaveQuestionAndCancelKeepsTheWindow) {
+  WindowFixture fixture;
+  fixture.state.modifiedFlag = true;
+  fixture.state.currentFileName = "PROJECT1.GLN";
+  fixture.prompt.answers = {PromptAnswer::Cancel};
+  EXPECT_FALSE(fixture.window.close());
+  EXPECT_TRUE(fixture.window.isVisible());
+  ASSERT_EQ(fixture.prompt.messages.size(), 1u);
+  EXPECT_EQ(fixture.prompt.messages[0],
+            (Message{"Save", "Save changes to PROJECT1.GLN?", PromptIcon::Exclamation,
+                     PromptButtons::YesNoCancel}));
+  EXPECT_TRUE(fixture.settings.values.empty());
+}
+
+TEST(MainFrm, ExitWithoutChangesAsksNothingAndSavesZoomAndBars) {
+  WindowFixture fixture;
+  fixture.window.RunCommand("mnuZoomItem(2)");
+  fixture.window.RunCommand("mnuViewToolBar");
+  fixture.window.close();
+  EXPECT_TRUE(fixture.prompt.messages.empty());
+  EXPECT_FALSE(fixture.window.isVisible());
+  EXPECT_EQ(fixture.settings.values["Zoom"], "2");
+  EXPECT_EQ(fixture.settings.values["Toolbar"], "False");
+  EXPECT_EQ(fixture.settings.values["Statusbar"], "True");
+}
+
+TEST(MainFrm, FullScreenHidesMenusAndBarsAndNormalRestoresThem) {
+  WindowFixture fixture;
+  MainFrm& window = fixture.window;
+  window.HideToolsMenu();
+  window.SetStatusbarVisible(false);
+  window.RunCommand("mnuViewFullScreen");
+  EXPECT_FALSE(window.findChild<QToolBar*>(QStringLiteral("Toolbar1"))->isVisible());
+  EXPECT_FALSE(window.menuWidget()->isVisible());
+  window.RunCommand("mnuViewNormal");
+  EXPECT_TRUE(window.findChild<QToolBar*>(QStringLiteral("Toolbar1"))->isVisible());
+  EXPECT_TRUE(window.menuWidget()->isVisible());
+  EXPECT_FALSE(window.statusBar()->isVisible());
+  EXPECT_FALSE(window.findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible());
+}
+
+TEST(MainFrm, HelpWithoutTheManualSaysSo) {
+  WindowFixture fixture;
+  fixture.state.manualPath = "/nowhere/Gustline.pdf";
+  fixture.window.RunCommand("mnuHelpContents");
+  ASSERT_EQ(fixture.prompt.messages.size(), 1u);
+  EXPECT_EQ(
+      fixture.prompt.messages[0],
+      (Message{"Error", "There is no application associated with the .pdf filename extension.",
+               PromptIcon::Stop, PromptButtons::Ok}));
+}
+
+}  // namespace
+}  // namespace gustline
