@@ -36,7 +36,9 @@ class LinkedReport {
     return linked;
   }
 
+  // A project input by defined name or by its cell on Sheet1 ("B148").
   void Set(std::string_view projectName, double value) {
+    project_->SetActiveSheet(1);
     wb::WriteNamedNumber(*project_, projectName, value);
   }
 
