@@ -1,11 +1,11 @@
 #include "buildings/Fig66.h"
 
-#include "buildings/ui_Fig66.h"
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/ReportHook.h"
 #include "core/workbook/NumberFormat.h"
 #include "ui/rules/qt/LineEditField.h"
+#include "ui_Fig66.h"
 
 namespace gustline {
 

@@ -1,0 +1,398 @@
+#include "ui/frmWindProp.h"
+
+#include <QButtonGroup>
+#include <QPointer>
+#include <QRadioButton>
+#include <QShowEvent>
+
+#include "buildings/Fig610.h"
+#include "buildings/Fig66.h"
+#include "core/Application.h"
+#include "core/ApplicationView.h"
+#include "core/FacilityErrorReport.h"
+#include "core/ProcessState.h"
+#include "core/Prompt.h"
+#include "core/ReportHook.h"
+#include "core/StatusSummary.h"
+#include "core/workbook/FacilityError.h"
+#include "core/workbook/NamedCells.h"
+#include "factors/frmTopography.h"
+#include "ui/frmWindPropScreens.h"
+#include "ui/frmWindPropStatus.h"
+#include "ui/rules/FieldNumber.h"
+#include "ui/rules/qt/LineEditField.h"
+#include "ui_frmWindProp.h"
+
+namespace gustline {
+namespace {
+
+constexpr int kEquationTab = 0;
+constexpr int kDimensionsTab = 2;
+constexpr int kGustTab = 3;
+constexpr int kCoefficientsTab = 5;
+constexpr int kInternalPressureTab = 6;
+
+void Check(QButtonGroup* group, int id) {
+  if (QAbstractButton* button = group->button(id)) {
+    button->setChecked(true);
+    return;
+  }
+  // No button stands for the value (a stored exposure A): none is checked.
+  group->setExclusive(false);
+  for (QAbstractButton* button : group->buttons()) button->setChecked(false);
+  group->setExclusive(true);
+}
+
+int CheckedOr(const QButtonGroup* group, int fallback) {
+  const int id = group->checkedId();
+  return id >= 0 ? id : fallback;
+}
+
+std::string Text(const QLineEdit* edit) {
+  return edit->text().toStdString();
+}
+
+void SetText(QLineEdit* edit, const std::string& text) {
+  edit->setText(QString::fromStdString(text));
+}
+
+}  // namespace
+
+frmWindProp::frmWindProp(Application& app, QWidget* parent)
+    : QDialog(parent), app_(app), ui_(std::make_unique<Ui::frmWindProp>()) {
+  ui_->setupUi(this);
+  system_ = Group("Option1", 3);
+  structure_ = Group("Option2", 3);
+  category_ = Group("Option3", 4);
+  exposure_ = Group("Option4", 3);
+  gust_ = Group("Option5", 4);
+  hill_ = Group("Option6", 5);
+  enclosure_ = Group("Option7", 3);
+  ri_ = Group("Option8", 2);
+  for (const std::string& item : TableItems()) ui_->List2->addItem(QString::fromStdString(item));
+  // The map viewer and the open-structure dialogs come with their own procedures.
+  ui_->Command7->setEnabled(false);
+
+  connect(system_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
+  connect(structure_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
+  connect(ui_->SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { TabChanged(tab); });
+  connect(enclosure_, &QButtonGroup::idToggled, this, [this] { UpdateRiFrame(); });
+  connect(ri_, &QButtonGroup::idToggled, this, [this] { UpdateRiFrame(); });
+
+  connect(ui_->Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
+    app_.view.SetStatusPanel(kHeightPanel, HeightPanelText(text.toStdString()));
+  });
+  connect(ui_->Text6, &QLineEdit::textChanged, this, [this](const QString& text) {
+    app_.view.SetStatusPanel(kWindSpeedPanel, WindSpeedPanelText(text.toStdString()));
+  });
+  connect(exposure_, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+    if (checked) app_.view.SetStatusPanel(kExposurePanel, ExposurePanelText(id + 1));
+  });
+  const auto categoryChanged = [this] {
+    const int category = CategoryValue(CheckedOr(category_, 0), ui_->ChkHurricane->isChecked());
+    app_.view.SetStatusPanel(kImportancePanel, ImportancePanelText(category));
+  };
+  connect(category_, &QButtonGroup::idToggled, this, categoryChanged);
+  connect(ui_->ChkHurricane, &QCheckBox::toggled, this, categoryChanged);
+  connect(ui_->Text7, &QLineEdit::textChanged, this, [this] { UpdateDensityLabels(); });
+
+  connect(ui_->List1, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row < 0) return;
+    const int figure = FigureChoiceOf(ui_->List1->item(row)->text().toStdString()).figure;
+    if (figure > 0) held_.figure = figure;
+  });
+  connect(ui_->List2, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) held_.table = row + 1;
+  });
+  connect(ui_->List1, &QListWidget::itemDoubleClicked, this, [this] { Command10_Click(); });
+  connect(ui_->Command10, &QPushButton::clicked, this, [this] { Command10_Click(); });
+  connect(ui_->Command8, &QPushButton::clicked, this, [this] { frmTopography(this).exec(); });
+  connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+  connect(ui_->Command2, &QPushButton::clicked, this, &frmWindProp::reject);
+}
+
+frmWindProp::~frmWindProp() = default;
+
+QButtonGroup* frmWindProp::Group(const char* array, int count) {
+  auto* group = new QButtonGroup(this);
+  for (int i = 0; i < count; ++i) {
+    const QString name = QString("%1_%2").arg(array).arg(i);
+    group->addButton(findChild<QRadioButton*>(name), i);
+  }
+  return group;
+}
+
+WindProperties frmWindProp::Values() const {
+  WindProperties v = held_;
+  v.system = CheckedOr(system_, held_.system);
+  v.structure = CheckedOr(structure_, held_.structure);
+  v.table64 = CheckedOr(enclosure_, held_.table64);
+  v.kd = ui_->Check2->isChecked();
+  v.categoryOption = CheckedOr(category_, held_.categoryOption);
+  v.hurricane = ui_->ChkHurricane->isChecked();
+  v.exposure = exposure_->checkedId() >= 0 ? exposure_->checkedId() + 1 : held_.exposure;
+  v.windSpeed = Text(ui_->Text6);
+  v.meanSeaLevel = Text(ui_->Text7);
+  v.height = Text(ui_->Text1);
+  v.width = Text(ui_->Text2);
+  v.depth = Text(ui_->Text3);
+  v.frequency = Text(ui_->Text4);
+  v.dampingPercent = Text(ui_->Text5);
+  v.hillType = CheckedOr(hill_, held_.hillType);
+  v.hillHeight = Text(ui_->HillHeight);
+  v.hillLh = Text(ui_->HillLh);
+  v.hillX = Text(ui_->HillX);
+  v.gustType = CheckedOr(gust_, held_.gustType);
+  v.computeRi = ri_->checkedId() == 1;
+  v.aog = Text(ui_->TextAog);
+  v.vi = Text(ui_->TextVi);
+  return v;
+}
+
+void frmWindProp::ShowValues(const WindProperties& v) {
+  held_ = v;
+  Check(system_, v.system);
+  Check(structure_, v.structure);
+  Check(enclosure_, v.table64);
+  ui_->Check2->setChecked(v.kd);
+  Check(category_, v.categoryOption);
+  ui_->ChkHurricane->setChecked(v.hurricane);
+  Check(exposure_, v.exposure - 1);
+  SetText(ui_->Text6, v.windSpeed);
+  SetText(ui_->Text7, v.meanSeaLevel);
+  SetText(ui_->Text1, v.height);
+  SetText(ui_->Text2, v.width);
+  SetText(ui_->Text3, v.depth);
+  SetText(ui_->Text4, v.frequency);
+  SetText(ui_->Text5, v.dampingPercent);
+  Check(hill_, v.hillType);
+  SetText(ui_->HillHeight, v.hillHeight);
+  SetText(ui_->HillLh, v.hillLh);
+  SetText(ui_->HillX, v.hillX);
+  Check(gust_, v.gustType);
+  Check(ri_, v.computeRi ? 1 : 0);
+  SetText(ui_->TextAog, v.aog);
+  SetText(ui_->TextVi, v.vi);
+}
+
+void frmWindProp::UpdatePressureScreen() {
+  const PressureScreen screen =
+      PressureScreenFor(CheckedOr(system_, held_.system), CheckedOr(structure_, held_.structure),
+                        rules::FieldValue(Text(ui_->Text1)));
+  for (int i = 0; i < 3; ++i) {
+    structure_->button(i)->setText(QString::fromStdString(screen.structureCaptions[i]));
+  }
+  ui_->Option2_2->setVisible(screen.thirdStructureVisible);
+  if (screen.structure != structure_->checkedId()) Check(structure_, screen.structure);
+  ui_->Label1->setText(QString::fromStdString(screen.equation));
+  ui_->Label3->setText(QString::fromStdString(screen.figures));
+  if (screen.warning) app_.prompt.Show(*screen.warning);
+}
+
+void frmWindProp::UpdateForceFactorScreen() {
+  const int system = CheckedOr(system_, held_.system);
+  const int structure = CheckedOr(structure_, held_.structure);
+  const ForceFactorScreen screen = ForceFactorScreenFor(system, structure);
+  const int figure = held_.figure;
+  ui_->List1->clear();
+  for (const std::string& item : screen.figureItems) {
+    ui_->List1->addItem(QString::fromStdString(item));
+  }
+  ui_->List1->setCurrentRow(FigureListIndex(system, structure, figure));
+  ui_->List1->setEnabled(screen.figuresEnabled);
+  ui_->Command10->setEnabled(screen.figuresEnabled);
+  ui_->List2->setCurrentRow(held_.table > 0 ? held_.table - 1 : 0);
+  for (QWidget* widget :
+       {static_cast<QWidget*>(ui_->List2), static_cast<QWidget*>(ui_->Command5),
+        static_cast<QWidget*>(ui_->Label12), static_cast<QWidget*>(ui_->Label17)}) {
+    widget->setEnabled(screen.tablesEnabled);
+  }
+}
+
+void frmWindProp::UpdateGustScreen() {
+  const GustScreen screen =
+      GustScreenFor(CheckedOr(system_, held_.system), CheckedOr(structure_, held_.structure),
+                    CheckedOr(gust_, held_.gustType));
+  for (int i = 0; i < 4; ++i) gust_->button(i)->setEnabled(screen.enabled[i]);
+  Check(gust_, screen.gustType);
+}
+
+void frmWindProp::UpdateDimScreen() {
+  const bool editable = HeightEditable(held_.interval);
+  ui_->Text1->setEnabled(editable);
+  ui_->Label4->setEnabled(editable);
+}
+
+void frmWindProp::UpdateRiFrame() {
+  const bool partiallyEnclosed = CheckedOr(enclosure_, held_.table64) == 1;
+  ui_->Option8_0->setEnabled(partiallyEnclosed);
+  ui_->Option8_1->setEnabled(partiallyEnclosed);
+  const bool computed = partiallyEnclosed && ri_->checkedId() == 1;
+  for (QWidget* widget :
+       {static_cast<QWidget*>(ui_->TextAog), static_cast<QWidget*>(ui_->TextVi),
+        static_cast<QWidget*>(ui_->Label13), static_cast<QWidget*>(ui_->Label14)}) {
+    widget->setEnabled(computed);
+  }
+}
+
+void frmWindProp::UpdateDensityLabels() {
+  const std::string msl = Text(ui_->Text7);
+  ui_->Label20->setText(QString::fromStdString(AirDensityLabel(msl)));
+  ui_->Label21->setText(QString::fromStdString(ConstantLabel(msl)));
+}
+
+void frmWindProp::UpdateStatus() {
+  app_.view.SetStatusPanel(kHeightPanel, HeightPanelText(Text(ui_->Text1)));
+  app_.view.SetStatusPanel(kWindSpeedPanel, WindSpeedPanelText(Text(ui_->Text6)));
+  const WindProperties v = Values();
+  app_.view.SetStatusPanel(kExposurePanel, ExposurePanelText(v.exposure));
+  app_.view.SetStatusPanel(kImportancePanel,
+                           ImportancePanelText(CategoryValue(v.categoryOption, v.hurricane)));
+}
+
+void frmWindProp::SystemOrStructureChanged() {
+  UpdatePressureScreen();
+  UpdateGustScreen();
+  UpdateForceFactorScreen();
+  UpdateDimScreen();
+}
+
+void frmWindProp::TabChanged(int tab) {
+  switch (tab) {
+    case kDimensionsTab:
+      UpdateDimScreen();
+      break;
+    case kGustTab:
+      UpdateDimScreen();
+      UpdateGustScreen();
+      break;
+    case kCoefficientsTab:
+      UpdateForceFactorScreen();
+      break;
+    case kInternalPressureTab:
+      UpdateRiFrame();
+      break;
+    default:
+      break;
+  }
+}
+
+void frmWindProp::TabSelect(int tab) {
+  if (tab < kEquationTab || tab >= ui_->SSTab1->count()) return;
+  if (ui_->SSTab1->currentIndex() == tab) {
+    TabChanged(tab);
+  } else {
+    ui_->SSTab1->setCurrentIndex(tab);
+  }
+}
+
+void frmWindProp::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) Form_Activate();
+}
+
+void frmWindProp::Form_Activate() {
+  cancelled_ = false;
+  try {
+    ShowValues(LoadWindProperties(app_.state.ProjectWorkbook()));
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+  }
+  UpdatePressureScreen();
+  UpdateGustScreen();
+  UpdateForceFactorScreen();
+  UpdateDimScreen();
+  UpdateRiFrame();
+  UpdateStatus();
+  UpdateDensityLabels();
+  heightAtActivation_ = Text(ui_->Text1);
+}
+
+void frmWindProp::Form_Deactivate() {
+  if (cancelled_) return;
+  try {
+    SaveWindProperties(app_.state.ProjectWorkbook(), Values(), ui_->SSTab1->currentIndex());
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+  }
+  app_.report.CreateReport(app_);
+}
+
+void frmWindProp::Command1_Click() {
+  const WindProperties v = Values();
+  if (Text(ui_->Text1) != heightAtActivation_ && FigureDependsOnHeight(v.system, v.figure)) {
+    app_.prompt.Show(NewHeightWarning());
+  }
+  if (!rules::CheckLineEdits(app_.prompt,
+                             {ui_->HillX, ui_->HillLh, ui_->HillHeight, ui_->Text3, ui_->Text2,
+                              ui_->Text1, ui_->Text5, ui_->Text4, ui_->Text6, ui_->Text7})) {
+    return;
+  }
+  // Low-rise buildings are left with the warning of Figure 6-10 when they are too tall.
+  if (v.system == 0 && v.structure == 0) {
+    const PressureScreen screen = PressureScreenFor(0, 0, rules::FieldValue(v.height));
+    if (screen.warning) app_.prompt.Show(*screen.warning);
+  }
+  app_.state.modifiedFlag = true;
+  accept();
+  Form_Deactivate();
+}
+
+void frmWindProp::reject() {
+  cancelled_ = true;
+  QDialog::reject();
+}
+
+void frmWindProp::ReloadCarriedValues() {
+  wb::Workbook& project = app_.state.ProjectWorkbook();
+  held_.table66RoofType = wb::ReadNamedNumber(project, "Table66RoofType");
+  held_.note5Applies = wb::ReadNamedNumber(project, "Note5Applies");
+}
+
+void frmWindProp::Command10_Click() {
+  const QListWidgetItem* item = ui_->List1->currentItem();
+  if (item == nullptr) return;
+  const FigureChoice choice = FigureChoiceOf(item->text().toStdString());
+  if (choice.dialog == FigureDialog::None) return;
+  if (const auto error = HeightRangeError(choice.heightRule, rules::FieldValue(Text(ui_->Text1)))) {
+    app_.prompt.Show(*error);
+    return;
+  }
+  try {
+    if (choice.writesTable64) {
+      wb::WriteNamedInt(app_.state.ProjectWorkbook(), "Table64",
+                        CheckedOr(enclosure_, held_.table64));
+    }
+    // The other figure dialogs come with the procedures of their figures.
+    if (choice.dialog == FigureDialog::Fig66) {
+      Fig66(app_, this).exec();
+    } else if (choice.dialog == FigureDialog::Fig610) {
+      Fig610(app_, this).exec();
+    }
+    ReloadCarriedValues();
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+  }
+}
+
+frmWindProp& WindPropertiesForm(Application& app, QWidget* parent) {
+  static QPointer<frmWindProp> form;
+  static Application* owner = nullptr;
+  if (form.isNull() || owner != &app) {
+    delete form.data();
+    form = new frmWindProp(app, parent);
+    owner = &app;
+  }
+  return *form;
+}
+
+void ShowWindProperties(Application& app, int tab, QWidget* parent) {
+  UpdateStatusSummary(app.state.ProjectWorkbook(), app.view);
+  frmWindProp& form = WindPropertiesForm(app, parent);
+  form.TabSelect(tab);
+  form.show();
+  form.raise();
+  form.activateWindow();
+}
+
+}  // namespace gustline
