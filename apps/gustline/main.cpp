@@ -7,10 +7,10 @@
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
 #include "core/ProcessState.h"
-#include "core/ReportHook.h"
 #include "core/StartUp.h"
 #include "core/qt/QtSettings.h"
 #include "core/workbook/FacilityError.h"
+#include "report/ReportGenerator.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"
 #include "report/qt/QtPrompt.h"
@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
   gustline::QtApplicationView view(window);
   gustline::QtPrompt prompt(&window);
   gustline::QtSettings settings;
-  gustline::NullReportHook report;
+  gustline::report::ReportGenerator report;
   gustline::Application app{state, view, prompt, settings, report};
   window.SetApplication(&app);
 

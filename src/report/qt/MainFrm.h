@@ -88,6 +88,11 @@ class MainFrm : public QMainWindow {
   void ShowPopup(const QPoint& globalPos);
 
   // Command handlers.
+  // Runs a command of the core on the application, when there is one.
+  void WithApplication(bool (*command)(Application&)) {
+    if (app_) command(*app_);
+  }
+  void FileNewCommand();
   void FileExitCommand();
   void EditCopy();
   void RepeatLastCommand();

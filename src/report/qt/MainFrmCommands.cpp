@@ -7,6 +7,7 @@
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
 #include "core/FileExit.h"
+#include "core/FileNew.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/StatusSummary.h"
@@ -15,6 +16,11 @@
 #include "report/qt/MainFrm.h"
 
 namespace gustline {
+
+void MainFrm::FileNewCommand() {
+  if (!app_) return;
+  FileNew(*app_, [] { return std::optional<std::string>("Normal"); });
+}
 
 void MainFrm::FileExitCommand() {
   if (!app_ || !FileExit(*app_)) return;

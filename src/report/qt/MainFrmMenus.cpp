@@ -5,6 +5,9 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "core/FileOpen.h"
+#include "core/FileSave.h"
+#include "core/FileSaveAs.h"
 #include "report/qt/MainFrm.h"
 
 namespace gustline {
@@ -66,16 +69,19 @@ void MainFrm::BuildMenus() {
   });
 
   QMenu* file = AddMenu(nullptr, "mnuFile", "&File");
-  AddEntry(file, "mnuFileNew", "&New...", "Create new project.", nullptr)
-      ->setShortcut(QKeySequence::New);
-  AddEntry(file, "mnuFileOpen", "&Open...", "Open an existing project.", nullptr)
-      ->setShortcut(QKeySequence::Open);
+  AddEntry(file, "mnuFileNew", "&New...", "Create new project.", [this] {
+    FileNewCommand();
+  })->setShortcut(QKeySequence::New);
+  AddEntry(file, "mnuFileOpen", "&Open...", "Open an existing project.", [this] {
+    WithApplication(FileOpen);
+  })->setShortcut(QKeySequence::Open);
   AddEntry(file, "mnuFileTemplate", "&Template...", "Change default template.", nullptr);
   file->addSeparator();
-  AddEntry(file, "mnuFileSave", "&Save", "Save the active project.", nullptr)
-      ->setShortcut(QKeySequence::Save);
+  AddEntry(file, "mnuFileSave", "&Save", "Save the active project.", [this] {
+    WithApplication(FileSave);
+  })->setShortcut(QKeySequence::Save);
   AddEntry(file, "mnuFileSaveAs", "Save &As...", "Save the active project with a new name.",
-           nullptr);
+           [this] { WithApplication(FileSaveAs); });
   file->addSeparator();
   AddEntry(file, "mnuFilePrintSetup", "Print Set&up...",
            "Select printer, page orientation and paper size.", nullptr);
@@ -88,7 +94,9 @@ void MainFrm::BuildMenus() {
   for (int entry = 0; entry < 4; ++entry) {
     const std::string name = "mnuFileArray(" + std::to_string(entry) + ")";
     recentItems_[static_cast<std::size_t>(entry)] =
-        AddEntry(file, name.c_str(), "", "Open this file.", nullptr);
+        AddEntry(file, name.c_str(), "", "Open this file.", [this, entry] {
+          if (app_) OpenRecentFile(*app_, entry);
+        });
     recentItems_[static_cast<std::size_t>(entry)]->setVisible(false);
   }
   file->addSeparator();

@@ -1,0 +1,47 @@
+// Pictures of the window as the user sees it, written for a person to look at.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QTest>
+
+#include "GuiApp.h"
+#include "core/Application.h"
+#include "core/ProcessState.h"
+#include "core/Prompt.h"
+#include "core/Settings.h"
+#include "core/StartUp.h"
+#include "report/ReportGenerator.h"
+#include "report/qt/MainFrm.h"
+#include "report/qt/QtApplicationView.h"
+
+namespace gustline {
+namespace {
+
+bool SavePicture(QWidget& widget, const QString& name) {
+  QDir().mkpath(QStringLiteral(GUSTLINE_PICTURES_DIR));
+  return widget.grab().save(QStringLiteral(GUSTLINE_PICTURES_DIR "/") + name);
+}
+
+TEST(Pictures, MainWindowWithTheDefaultReportAndItsPreview) {
+  testing::EnsureApplication();
+  MainFrm window;
+  QtApplicationView view(window);
+  ProcessState state;
+  ScriptedPrompt prompt;
+  MemorySettings settings;
+  report::ReportGenerator report;
+  Application app{state, view, prompt, settings, report};
+  window.SetApplication(&app);
+  window.resize(1100, 820);
+  StartApplication(app, QCoreApplication::applicationDirPath().toStdString(), "");
+  QTest::qWait(50);
+  EXPECT_TRUE(prompt.messages.empty()) << prompt.messages.front().text;
+  EXPECT_EQ(window.windowTitle(), QStringLiteral(" Kestrel Ridge Gustline - [PROJECT1.GLN]"));
+  EXPECT_EQ(window.StatusPanel(2), QStringLiteral(" V = 90.00 mph "));
+  EXPECT_TRUE(SavePicture(window, QStringLiteral("main_window.png")));
+}
+
+}  // namespace
+}  // namespace gustline
