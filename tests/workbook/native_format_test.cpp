@@ -469,7 +469,7 @@ TEST_F(WorkbookFileTest, AFailedSaveLeavesTheOldFileAsItWas) {
   std::filesystem::create_directory(path + ".tmp");  // the file beside cannot be made
   EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(path, FileType::Native); }), errc::kFileWrite);
   EXPECT_EQ(Contents(path), old);
-  EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(path, FileType::Excel5); }), errc::kFileType);
+  EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(path, FileType::Excel5); }), errc::kFileWrite);
   EXPECT_EQ(Contents(path), old);
   EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(PathOf("missing/PROJECT1.GLN"), FileType::Native); }),
             errc::kFileWrite);
