@@ -82,6 +82,17 @@ INSTANTIATE_TEST_SUITE_P(
                       FormatCase{"#,##0;[Red]-#,##0", -1234, "-1,234"},
                       FormatCase{"0.0;0.0", -2, "2.0"}, FormatCase{"\"a;b\" 0", 3, "a;b 3"}));
 
+// Serial 46349.5 is noon of 23 November 2026, a Monday.
+INSTANTIATE_TEST_SUITE_P(Dates, FormatNumberTest,
+                         ::testing::Values(FormatCase{"mmmm d, yyyy", 46349.5, "November 23, 2026"},
+                                           FormatCase{"mm/dd/yy", 46349.5, "11/23/26"},
+                                           FormatCase{"d-mmm-yyyy", 46349.5, "23-Nov-2026"},
+                                           FormatCase{"dddd", 46349.5, "Monday"},
+                                           FormatCase{"h:mm AM/PM", 46349.75, "6:00 PM"},
+                                           FormatCase{"hh:mm:ss", 46349.25, "06:00:00"},
+                                           FormatCase{"m/d/yyyy", 60, "2/29/1900"},
+                                           FormatCase{"[Red]General", 7, "7"}));
+
 TEST(FormatNumber, ShowsANumberThatIsNoneAsAnError) {
   EXPECT_EQ(FormatNumber(std::numeric_limits<double>::infinity(), "0.00"), "#NUM!");
   EXPECT_EQ(FormatNumber(std::numeric_limits<double>::quiet_NaN(), "General"), "#NUM!");

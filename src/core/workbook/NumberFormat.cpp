@@ -1,5 +1,7 @@
 #include "NumberFormat.h"
 
+#include "DateFormat.h"
+
 #include <cctype>
 #include <charconv>
 #include <cmath>
@@ -287,6 +289,7 @@ std::string FormatNumber(double number, std::string_view format) {
     chosen = sections[2];
   }
   if (chosen.empty() && sections.size() == 1) chosen = "General";
+  if (auto date = FormatDate(number, chosen)) return *date;
 
   const Section section = ParseSection(chosen);
   Decimal decimal = ToDecimal(std::fabs(number));

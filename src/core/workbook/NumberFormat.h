@@ -8,7 +8,8 @@
 namespace gustline::wb {
 
 // The display text of a number in a number format: "General", "0", "0.00", "#,###",
-// "#,##0.00", "0.00E+00", "0%", sections split at ";", literal text in quotes.
+// "#,##0.00", "0.00E+00", "0%", sections split at ";", literal text in quotes; a section
+// with date codes ("mmmm d, yyyy", "h:mm AM/PM") shows the number as a serial date.
 std::string FormatNumber(double number, std::string_view format);
 
 // The display text of any value: numbers by the format, texts as they are, "TRUE"/"FALSE",
