@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QAction>
 #include <QDir>
 #include <QPixmap>
 #include <QTest>
@@ -41,6 +42,15 @@ TEST(Pictures, MainWindowWithTheDefaultReportAndItsPreview) {
   EXPECT_EQ(window.windowTitle(), QStringLiteral(" Kestrel Ridge Gustline - [PROJECT1.GLN]"));
   EXPECT_EQ(window.StatusPanel(2), QStringLiteral(" V = 90.00 mph "));
   EXPECT_TRUE(SavePicture(window, QStringLiteral("main_window.png")));
+
+  window.RunCommand("mnuFilePrintPreview");
+  QTest::qWait(50);
+  EXPECT_TRUE(window.Previewing());
+  EXPECT_FALSE(window.Command("mnuEditLastCmd")->isEnabled());
+  EXPECT_TRUE(SavePicture(window, QStringLiteral("print_preview.png")));
+  window.RunCommand("mnuViewNormal");
+  EXPECT_FALSE(window.Previewing());
+  EXPECT_TRUE(window.Command("mnuEditLastCmd")->isEnabled());
 }
 
 }  // namespace

@@ -14,8 +14,13 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
+#include <utility>
 
+#include "core/Application.h"
+#include "core/ProcessState.h"
 #include "core/RecentFiles.h"
+#include "report/qt/PrintPreview.h"
+#include "report/qt/ReportView.h"
 
 namespace gustline {
 namespace {
@@ -59,10 +64,75 @@ MainFrm::MainFrm(QWidget* parent) : QMainWindow(parent) {
   connect(leaveFullScreen, &QShortcut::activated, this, [this] {
     if (fullScreenView_) RunCommand("mnuViewNormal");
   });
+  for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+    auto* turn = new QShortcut(QKeySequence(key), this);
+    connect(turn, &QShortcut::activated, this, [this, step] { TurnPage(step); });
+  }
   ApplyZoom(5);
 }
 
 MainFrm::~MainFrm() = default;
+
+void MainFrm::SetApplication(Application* app) {
+  app_ = app;
+  delete reportView_;
+  delete preview_;
+  wb::Workbook& book = app_->state.ReportWorkbook();
+  reportView_ = new report::ReportView(book, reportArea_);
+  reportView_->setObjectName(QStringLiteral("ServerSS"));
+  connect(reportView_, &report::ReportView::PopupRequested, this, &MainFrm::ShowPopup);
+  preview_ = new report::PrintPreview(book, reportArea_);
+  connect(preview_, &report::PrintPreview::PrintRequested, this, [this] { PrintCommand(); });
+  connect(preview_, &report::PrintPreview::FullScreenRequested, this,
+          [this] { SetFullScreenView(!fullScreenView_); });
+  connect(preview_, &report::PrintPreview::CloseRequested, this, &MainFrm::LeavePreview);
+  reportArea_->addWidget(reportView_);
+  reportArea_->addWidget(preview_);
+  reportArea_->setCurrentWidget(reportView_);
+  ApplyZoom(zoomIndex_);
+}
+
+void MainFrm::RefreshReport() {
+  if (reportView_) reportView_->Refresh();
+}
+
+void MainFrm::SwitchMenusForPreview(bool previewing) {
+  for (const char* name : {"mnuViewNormal", "mnuViewFullScreen", "mnuViewStatus", "mnuViewToolBar",
+                           "mnuZoom", "mnuFilePrintPreview", "mnuEditCopy", "mnuEditLastCmd",
+                           "mnuFormatNumber", "mnuFormatWidth"})
+    Command(name)->setEnabled(!previewing);
+  toolbar_->setVisible(!previewing && !fullScreenView_ && toolbarShown_);
+}
+
+void MainFrm::EnterPreview() {
+  if (!preview_ || previewing_) return;
+  previewing_ = true;
+  SwitchMenusForPreview(true);
+  reportArea_->setCurrentWidget(preview_);
+  preview_->Enter();
+}
+
+void MainFrm::LeavePreview() {
+  if (!preview_ || !previewing_) return;
+  previewing_ = false;
+  preview_->Leave();
+  // The preview leaves every sheet at 100%; the zoom of the menu returns with the next report.
+  reportView_->SetZoom(100);
+  SwitchMenusForPreview(false);
+  reportArea_->setCurrentWidget(reportView_);
+  RefreshReport();
+}
+
+void MainFrm::TurnPage(int step) {
+  if (previewing_) {
+    if (step > 0)
+      preview_->PageDown();
+    else
+      preview_->PageUp();
+  } else if (reportView_) {
+    reportView_->TurnPage(step);
+  }
+}
 
 void MainFrm::BuildToolbar() {
   toolbar_ = addToolBar(QStringLiteral("Toolbar1"));
@@ -181,6 +251,10 @@ void MainFrm::ApplyZoom(int index) {
   zoomIndex_ = index;
   zoomItems_[static_cast<std::size_t>(index)]->setChecked(true);
   zoomList_->setCurrentIndex(index);
+  if (reportView_) {
+    reportView_->SetZoom(ZoomPercent());
+    reportView_->Refresh();
+  }
 }
 
 int MainFrm::ZoomPercent() const {

@@ -21,6 +21,10 @@ class QToolBar;
 
 namespace gustline {
 
+namespace report {
+class PrintPreview;
+class ReportView;
+}  // namespace report
 struct Application;
 class RecentFiles;
 
@@ -34,7 +38,8 @@ class MainFrm : public QMainWindow {
   explicit MainFrm(QWidget* parent = nullptr);
   ~MainFrm() override;
 
-  void SetApplication(Application* app) { app_ = app; }
+  // Commands run on this application, and the report view and preview show its report.
+  void SetApplication(Application* app);
 
   // A menu entry, popup entry or toolbar button by its object name; nullptr when unknown.
   QAction* Command(std::string_view objectName) const;
@@ -63,8 +68,14 @@ class MainFrm : public QMainWindow {
   void HideToolsMenu();
   void SetFullScreenView(bool fullScreen);
 
-  // The area between the bars where the report stands.
+  // The area between the bars where the report or its preview stands.
   QStackedWidget* ReportArea() const { return reportArea_; }
+  // Shows the report book as it now stands.
+  void RefreshReport();
+  // The print preview in place of the report view, and back.
+  void EnterPreview();
+  void LeavePreview();
+  bool Previewing() const { return previewing_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -98,6 +109,11 @@ class MainFrm : public QMainWindow {
   void RepeatLastCommand();
   void HelpContents();
   void RefreshStatusSummary();
+  void PrintCommand();
+  void PrintSetupCommand();
+  void TurnPage(int step);
+  // The entries that the preview disables, and the toolbar it hides.
+  void SwitchMenusForPreview(bool previewing);
   // frmWindProp at its tab: 0 design equation to 6 internal pressure.
   void OpenWindProperties(int tab);
 
@@ -113,6 +129,9 @@ class MainFrm : public QMainWindow {
   std::array<QLabel*, 5> panels_{};
   QProgressBar* progressBar_ = nullptr;
   QStackedWidget* reportArea_ = nullptr;
+  report::ReportView* reportView_ = nullptr;
+  report::PrintPreview* preview_ = nullptr;
+  bool previewing_ = false;
   int zoomIndex_ = 5;
   bool fullScreenView_ = false;
   bool toolsMenuVisible_ = true;

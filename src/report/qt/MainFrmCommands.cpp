@@ -14,6 +14,8 @@
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/Workbook.h"
 #include "report/qt/MainFrm.h"
+#include "report/qt/ReportPrinting.h"
+#include "ui/frmWindProp.h"
 
 namespace gustline {
 
@@ -58,8 +60,26 @@ void MainFrm::RefreshStatusSummary() {
   if (app_) UpdateStatusSummary(app_->state.ProjectWorkbook(), app_->view);
 }
 
-void MainFrm::OpenWindProperties(int /*tab*/) {
-  RefreshStatusSummary();
+void MainFrm::OpenWindProperties(int tab) {
+  if (app_) ShowWindProperties(*app_, tab, this);
+}
+
+void MainFrm::PrintCommand() {
+  if (!app_) return;
+  try {
+    report::PrintReport(app_->state.ReportWorkbook(), this);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_->prompt, error);
+  }
+}
+
+void MainFrm::PrintSetupCommand() {
+  if (!app_) return;
+  try {
+    report::RunPrintSetup(this);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_->prompt, error);
+  }
 }
 
 }  // namespace gustline

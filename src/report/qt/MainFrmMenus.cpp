@@ -84,12 +84,14 @@ void MainFrm::BuildMenus() {
            [this] { WithApplication(FileSaveAs); });
   file->addSeparator();
   AddEntry(file, "mnuFilePrintSetup", "Print Set&up...",
-           "Select printer, page orientation and paper size.", nullptr);
+           "Select printer, page orientation and paper size.", [this] { PrintSetupCommand(); });
   AddEntry(file, "mnuFilePageSetup", "Pag&e Setup...",
            "Define header, page margins, page centering.", [this] { RefreshStatusSummary(); });
-  AddEntry(file, "mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report.", nullptr)
-      ->setShortcut(QKeySequence::Print);
-  AddEntry(file, "mnuFilePrintPreview", "Print Pre&view", "Print Preview Report.", nullptr);
+  AddEntry(file, "mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report.", [this] {
+    PrintCommand();
+  })->setShortcut(QKeySequence::Print);
+  AddEntry(file, "mnuFilePrintPreview", "Print Pre&view", "Print Preview Report.",
+           [this] { EnterPreview(); });
   file->addSeparator();
   for (int entry = 0; entry < 4; ++entry) {
     const std::string name = "mnuFileArray(" + std::to_string(entry) + ")";
@@ -116,7 +118,10 @@ void MainFrm::BuildMenus() {
   AddEntry(edit, "mnuEditProperties", "Project Properties...", nullptr, nullptr, false);
 
   QMenu* view = AddMenu(nullptr, "mnuView", "&View");
-  AddEntry(view, "mnuViewNormal", "&Normal", nullptr, [this] { SetFullScreenView(false); });
+  AddEntry(view, "mnuViewNormal", "&Normal", nullptr, [this] {
+    SetFullScreenView(false);
+    LeavePreview();
+  });
   AddEntry(view, "mnuViewFullScreen", "F&ull Screen", nullptr, [this] { SetFullScreenView(true); });
   view->addSeparator();
   QAction* toolbarItem = AddEntry(view, "mnuViewToolBar", "&Toolbar", "Toggle Toolbar ON or OFF.",

@@ -111,6 +111,7 @@ void QtApplicationView::SetProgress(int value) {
 
 void QtApplicationView::LayoutReport() {
   window_.ReportArea()->updateGeometry();
+  window_.RefreshReport();
 }
 
 void QtApplicationView::SetZoomListIndex(int index) {
