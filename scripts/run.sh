@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the release preset and runs the program on
-# its default project.
+# Installs what is missing, builds the release preset and runs the program with
+# its main window, on the project named (the default project when none).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
 cmake --preset release >/dev/null
 cmake --build --preset release
-exec build/release/bin/gustline-cli get Company WindSpeed Exposure Height "$@"
+exec build/release/bin/gustline "$@"
