@@ -1,5 +1,7 @@
 #include "report/HeightTables.h"
 
+#include <utility>
+
 #include "core/workbook/CellAddress.h"
 #include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
@@ -86,8 +88,17 @@ ForcesTable FillForcesTable(wb::Workbook& report, const ForcesTableNames& names,
   SetSummaryFormula(report, s + 2, c + 2, wb::CellRefText(baseRow, momentCol, true));
 
   // Shear and moment run through the rows in a chain; with automatic calculation off they
-  // settle after one pass per row.
-  for (int pass = 0; pass <= rows; ++pass) report.Recalc();
+  // settle after at most one pass per row. The engine calculates in dependency order, so
+  // the passes stop as soon as one leaves the base shear and moment as they were.
+  const auto base = [&report, s, c] {
+    return std::pair(report.CellValue(s + 1, c + 2), report.CellValue(s + 2, c + 2));
+  };
+  report.Recalc();
+  for (int pass = 1; pass <= rows; ++pass) {
+    const auto before = base();
+    report.Recalc();
+    if (base() == before) break;
+  }
   return ForcesTable{c, s};
 }
 
