@@ -1,8 +1,8 @@
 // Pictures of the window as the user sees it, written for a person to look at.
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QPixmap>
 #include <QTest>
