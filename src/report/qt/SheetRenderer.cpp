@@ -89,8 +89,27 @@ void DrawBorderLine(QPainter& painter, QPointF from, QPointF to, const wb::Borde
   painter.drawLine(from, to);
 }
 
+// Where the workbooks' fonts are missing, fonts of the same widths stand in for them, and
+// failing those the narrow cut of a common family, so that texts fit their columns as the
+// templates were laid out.
+void SubstituteWorkbookFonts() {
+  [[maybe_unused]] static const bool done = [] {
+    QFont::insertSubstitutions(QStringLiteral("Arial"),
+                               {QStringLiteral("Liberation Sans"), QStringLiteral("Arimo"),
+                                QStringLiteral("DejaVu Sans Condensed")});
+    QFont::insertSubstitutions(QStringLiteral("Times New Roman"),
+                               {QStringLiteral("Liberation Serif"), QStringLiteral("Tinos"),
+                                QStringLiteral("DejaVu Serif Condensed")});
+    QFont::insertSubstitutions(QStringLiteral("Courier New"),
+                               {QStringLiteral("Liberation Mono"), QStringLiteral("Cousine"),
+                                QStringLiteral("DejaVu Sans Mono")});
+    return true;
+  }();
+}
+
 // The font of a cell, sized so that one unit of the painter's user space is one point.
 QFont CellFont(const wb::Font& font, const QPaintDevice* device) {
+  SubstituteWorkbookFonts();
   QFont qfont(QString::fromStdString(font.name));
   qfont.setStyleHint(QFont::SansSerif);
   qfont.setHintingPreference(QFont::PreferNoHinting);
@@ -130,6 +149,14 @@ Qt::Alignment Vertical(wb::VAlign align) {
       break;
   }
   return Qt::AlignBottom;
+}
+
+// A number that is wider than its cell shows as a row of "#", as a spreadsheet shows it,
+// rather than as digits cut off.
+QString FittedNumber(const QString& text, const QFontMetricsF& metrics, double width) {
+  if (metrics.horizontalAdvance(text) <= width + 0.01) return text;
+  const double hash = metrics.horizontalAdvance(u'#');
+  return QString(static_cast<qsizetype>(std::max(0.0, std::floor(width / hash))), u'#');
 }
 
 std::string DateText(const char* format) {
@@ -418,15 +445,17 @@ void DrawCells(QPainter& painter, const wb::Sheet& sheet, const wb::StyleTable& 
       painter.setFont(font);
       painter.setPen(ColorOf(style.font.color, options.noColor));
       const Qt::Alignment horizontal = Horizontal(style.hAlign, cell->value);
-      const QString qtext = QString::fromStdString(text);
+      QString qtext = QString::fromStdString(text);
       QRectF box = cellRect(row, col);
       int flags = horizontal | Vertical(style.vAlign);
+      const QFontMetricsF metrics(font, painter.device());
       if (style.wrap) {
         flags |= Qt::TextWordWrap;
+      } else if (cell->value.IsNumber()) {
+        qtext = FittedNumber(qtext, metrics, box.width() - 2 * kTextPadding);
       } else if (horizontal == Qt::AlignLeft) {
         // Left text runs on into the empty cells to its right.
-        const double needed =
-            QFontMetricsF(font, painter.device()).horizontalAdvance(qtext) + 2 * kTextPadding;
+        const double needed = metrics.horizontalAdvance(qtext) + 2 * kTextPadding;
         int next = col + 1;
         while (box.width() < needed) {
           if (next > area.lastCol) {
@@ -438,8 +467,6 @@ void DrawCells(QPainter& painter, const wb::Sheet& sheet, const wb::StyleTable& 
           box.setRight(grid.ColX(next + 1));
           ++next;
         }
-      } else {
-        flags |= Qt::TextDontClip;
       }
       painter.drawText(box.adjusted(kTextPadding, 0, -kTextPadding, -0.75), flags, qtext);
     }
