@@ -1,0 +1,22 @@
+#include "ui/About.h"
+
+#include <QCoreApplication>
+
+#include "ui_About.h"
+
+namespace gustline {
+
+About::About(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::About>()) {
+  ui_->setupUi(this);
+  ui_->lblVersion->setText(QStringLiteral("Version ") + QCoreApplication::applicationVersion());
+  connect(ui_->Command1, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+About::~About() = default;
+
+void ShowAbout(QWidget* parent) {
+  About box(parent);
+  box.exec();
+}
+
+}  // namespace gustline

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace gustline::wb {
+class Workbook;
+}
+
+namespace gustline {
+
+// The three unit choices of the Units dialog, each the index of its option in the group:
+// `Pressure` 0 psf, 1 ksf; `Force` 0 lbs, 1 kips; `Moment` 0 lb-ft, 1 kip-ft.
+struct UnitsValues {
+  int pressure = 0;  // Option1
+  int force = 0;     // Option2
+  int moment = 0;    // Option3
+};
+
+UnitsValues LoadUnits(wb::Workbook& project);
+
+// Writes the three indices; the unit block of Sheet3 follows at the next calculation.
+void SaveUnits(wb::Workbook& project, const UnitsValues& values);
+
+}  // namespace gustline
