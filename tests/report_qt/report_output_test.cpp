@@ -79,6 +79,8 @@ TEST(ReportOutput, PdfHoldsTheReportAsTextInEmbeddedFontsOnePagePerSheet) {
   book->SetActiveSheet(2);
   book->GetSheet(2).Print() = book->GetSheet(1).Print();
   testing::Put(*book, 1, 1, "Gust Effect Factor");
+  book->SetColumnWidth(2, 2, 4);
+  testing::Put(*book, 1, 2, "123456789");  // too wide for four characters
   book->SetActiveSheet(1);
   const QString path = PicturePath("velocity-pressure.pdf");
   WriteReportPdf(*book, path.toStdString());
@@ -95,6 +97,8 @@ TEST(ReportOutput, PdfHoldsTheReportAsTextInEmbeddedFontsOnePagePerSheet) {
                                "0.849", "21.25", "psf", "Page1", "GustEffectFactor", "Page2"})
     EXPECT_TRUE(text.contains(QString::fromLatin1(expected)))
         << expected << " in " << text.toStdString();
+  EXPECT_TRUE(text.contains(QStringLiteral("##")));
+  EXPECT_FALSE(text.contains(QStringLiteral("1234")));
 }
 
 TEST(ReportOutput, PdfIntoAFolderThatIsNotThereFailsAndLeavesNothing) {
@@ -126,6 +130,14 @@ TEST(ReportOutput, PngShowsThePageAtItsResolution) {
   bool ink = false;
   for (int px = int(36 * 96 / 72); px < int(300 * 96 / 72) && !ink; ++px)
     ink = image.pixelColor(px, int((54 + 10) * 96 / 72)).lightness() < 100;
+  EXPECT_TRUE(ink);
+  // The long text of B11 runs on over the empty C11 and D11.
+  ink = false;
+  const double d11 = 36 + (3 + 30 + 12) * 5.25;
+  for (int px = int(d11 * 96 / 72); px < int((d11 + 40) * 96 / 72) && !ink; ++px)
+    for (int py = int((54 + 18 + 9 * 12.75 + 2) * 96 / 72);
+         py < int((54 + 18 + 10 * 12.75) * 96 / 72); ++py)
+      ink = ink || image.pixelColor(px, py).lightness() < 100;
   EXPECT_TRUE(ink);
 
   WriteSheetPng(*book, 1, PicturePath("velocity-pressure-150dpi.png").toStdString(), 150);
