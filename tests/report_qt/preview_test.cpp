@@ -120,18 +120,5 @@ TEST(ReportViewTest, CellsUnderThePointerFollowZoomAndWidths) {
   }
 }
 
-TEST(ReportViewTest, TurningPagesStopsAtTheLastSheet) {
-  auto book = testing::VelocityPressureBook();
-  book->AddSheet("Page 2");
-  ReportView view(*book);
-  EXPECT_TRUE(view.TurnPage(1));
-  EXPECT_EQ(book->ActiveSheet(), 2);
-  EXPECT_FALSE(view.TurnPage(1));
-  EXPECT_EQ(book->ActiveSheet(), 2);
-  EXPECT_TRUE(view.TurnPage(-1));
-  EXPECT_FALSE(view.TurnPage(-1));
-  EXPECT_EQ(book->ActiveSheet(), 1);
-}
-
 }  // namespace
 }  // namespace gustline::report

@@ -9,7 +9,6 @@
 #include <string>
 
 #include "SampleBooks.h"
-#include "core/workbook/FacilityError.h"
 #include "report/qt/ReportPrinting.h"
 #include "report/qt/SheetRenderer.h"
 
@@ -99,17 +98,6 @@ TEST(ReportOutput, PdfHoldsTheReportAsTextInEmbeddedFontsOnePagePerSheet) {
         << expected << " in " << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("##")));
   EXPECT_FALSE(text.contains(QStringLiteral("1234")));
-}
-
-TEST(ReportOutput, PdfIntoAFolderThatIsNotThereFailsAndLeavesNothing) {
-  auto book = testing::VelocityPressureBook();
-  const std::string path = "/nonexistent-folder/report.pdf";
-  try {
-    WriteReportPdf(*book, path);
-    FAIL() << "no error";
-  } catch (const wb::FacilityError& error) {
-    EXPECT_EQ(error.Number(), wb::errc::kFileWrite);
-  }
 }
 
 TEST(ReportOutput, PngShowsThePageAtItsResolution) {

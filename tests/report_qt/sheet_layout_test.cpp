@@ -130,11 +130,5 @@ TEST(SheetLayout, WithoutFitRowsRunOnToFurtherPagesAndCentringMovesTheOrigin) {
   EXPECT_DOUBLE_EQ(layout.pages[0].origin.y(), 54);
 }
 
-TEST(SheetLayout, LandscapeTurnsThePaper) {
-  wb::Workbook book;
-  book.GetSheet(1).Print().landscape = true;
-  EXPECT_EQ(LayOutSheetForPrint(book.GetSheet(1), book.Styles()).paper, QSizeF(792, 612));
-}
-
 }  // namespace
 }  // namespace gustline::report

@@ -127,7 +127,7 @@ void ReportView::paintEvent(QPaintEvent*) {
   painter.save();
   painter.translate(areaRect.topLeft());
   report_.EnsureCalculated();
-  DrawCells(painter, sheet, report_.Styles(), grid_, area, {},
+  DrawCells(painter, sheet, report_.Styles(), grid_, area, {sheet.Display().gridLines, false},
             visible.translated(-areaRect.topLeft()));
   painter.restore();
 
