@@ -46,7 +46,7 @@ void TopographyPicture::paintEvent(QPaintEvent*) {
                      QPointF(w * 0.03 + w * 0.03 * (i + 1), approachY));
   }
   painter.setPen(Qt::black);
-  painter.drawText(QPointF(crestX + w * 0.02, crestY - h * 0.3), tr("Speed-up"));
+  painter.drawText(QPointF(crestX + w * 0.23, crestY - h * 0.14), tr("Speed-up"));
   painter.drawText(QPointF(w * 0.08, ground + h * 0.12), tr("(Upwind)"));
   painter.drawText(QPointF(w * 0.72, ground + h * 0.12), tr("(Downwind)"));
 }

@@ -147,7 +147,8 @@ int FigureListIndex(int system, int structure, int figure) {
   } else if (system == 0 && structure == 0) {
     index = 0;
   } else if (system == 0) {
-    index = figure == 1 ? 0 : figure == 9 ? 1 : figure == 8 ? 2 : -1;
+    // A figure of another system gives way to Figure 6-6, so that the report has a template.
+    index = figure == 9 ? 1 : figure == 8 ? 2 : 0;
   } else {
     index = 0;
   }

@@ -32,7 +32,8 @@ struct ForceFactorScreen {
 ForceFactorScreen ForceFactorScreenFor(int system, int structure);
 const std::vector<std::string>& TableItems();
 
-// The List1 entry that a stored `Figure` selects, or -1 to leave the list alone.
+// The List1 entry that a stored `Figure` selects, or -1 to leave the list alone, as a
+// components figure outside the list does.
 int FigureListIndex(int system, int structure, int figure);
 
 // Which Option5 buttons are enabled, and the gust type that follows from them.

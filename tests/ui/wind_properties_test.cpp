@@ -89,6 +89,8 @@ TEST(WindPropertiesTest, FigureEntriesAndHeightRules) {
   EXPECT_EQ(FigureListIndex(1, 0, 4), 1);
   EXPECT_EQ(FigureListIndex(1, 0, 6), 3);
   EXPECT_EQ(FigureListIndex(1, 0, 2), -1);
+  EXPECT_EQ(FigureListIndex(0, 1, 2), 0);  // low-rise to rigid: Figure 6-6
+  EXPECT_EQ(FigureListIndex(0, 2, 9), 1);
   const auto items = ForceFactorScreenFor(1, 0).figureItems;
   const FigureChoice gabled = FigureChoiceOf(items[0]);
   EXPECT_EQ(gabled.dialog, FigureDialog::Fig611);
