@@ -115,9 +115,9 @@ void ReportView::paintEvent(QPaintEvent*) {
 
   const int firstRow = std::clamp(ItemAt(grid_.rowEdges, visible.top()), 1, grid_.Rows());
   const int lastRow = std::clamp(ItemAt(grid_.rowEdges, visible.bottom()), 1, grid_.Rows());
-  const int firstCol = std::clamp(ItemAt(grid_.colEdges, visible.left()), 1, grid_.Cols());
   const int lastCol = std::clamp(ItemAt(grid_.colEdges, visible.right()), 1, grid_.Cols());
-  const wb::Area area{firstRow, firstCol, lastRow, lastCol};
+  // From column A on, so that text running on from a column scrolled out of sight shows.
+  const wb::Area area{firstRow, 1, lastRow, lastCol};
   const QRectF areaRect = grid_.AreaRect(area);
 
   painter.translate(-scroll);
