@@ -109,6 +109,9 @@ class MainFrm : public QMainWindow {
   void RepeatLastCommand();
   void HelpContents();
   void RefreshStatusSummary();
+  // The spreadsheet's own dialogs for the selection of the report.
+  void FormatWidth();
+  void FormatNumber();
   void PrintCommand();
   void PrintSetupCommand();
   void TurnPage(int step);

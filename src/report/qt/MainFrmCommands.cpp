@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QUrl>
 
 #include "core/Application.h"
@@ -62,6 +63,38 @@ void MainFrm::RefreshStatusSummary() {
 
 void MainFrm::OpenWindProperties(int tab) {
   if (app_) ShowWindProperties(*app_, tab, this);
+}
+
+void MainFrm::FormatWidth() {
+  if (!app_) return;
+  wb::Workbook& book = app_->state.ReportWorkbook();
+  bool accepted = false;
+  const double width = QInputDialog::getDouble(
+      this, QStringLiteral("Column Width"), QStringLiteral("Column width (characters):"),
+      book.GetSheet(book.ActiveSheet()).ColumnWidth(book.SelFirstCol()), 0, 255, 2, &accepted);
+  if (!accepted) return;
+  try {
+    book.SetColumnWidth(book.SelFirstCol(), book.SelLastCol(), width);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_->prompt, error);
+  }
+  RefreshReport();
+}
+
+void MainFrm::FormatNumber() {
+  if (!app_) return;
+  wb::Workbook& book = app_->state.ReportWorkbook();
+  bool accepted = false;
+  const QString format =
+      QInputDialog::getText(this, QStringLiteral("Number Format"), QStringLiteral("Number format:"),
+                            QLineEdit::Normal, QStringLiteral("0.00"), &accepted);
+  if (!accepted) return;
+  try {
+    book.SetNumberFormat(format.toStdString());
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_->prompt, error);
+  }
+  RefreshReport();
 }
 
 void MainFrm::PrintCommand() {

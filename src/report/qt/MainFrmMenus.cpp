@@ -184,8 +184,10 @@ void MainFrm::BuildMenus() {
            [this] { RefreshStatusSummary(); });
 
   QMenu* format = AddMenu(nullptr, "mnuFormat", "F&ormat");
-  AddEntry(format, "mnuFormatWidth", "Column &Width", "Change column width.", nullptr);
-  AddEntry(format, "mnuFormatNumber", "Custom &Number", "Change number format.", nullptr);
+  AddEntry(format, "mnuFormatWidth", "Column &Width", "Change column width.",
+           [this] { FormatWidth(); });
+  AddEntry(format, "mnuFormatNumber", "Custom &Number", "Change number format.",
+           [this] { FormatNumber(); });
 
   QMenu* tools = AddMenu(nullptr, "mnuTools", "&Tools");
   AddEntry(tools, "mnuToolsGustCalc", "&Gust Factor Calculator...", nullptr, nullptr);
