@@ -67,6 +67,31 @@ TEST(RecalcTest, CycleWithoutIterationIsValueErrorAndTerminates) {
   EXPECT_EQ(book.CellValue(2, 1), N(5));
 }
 
+// A running total that reads the row above or the row below by a switch, as the shear
+// columns of the force tables do, is circular only on paper: one pass settles it in the
+// direction the switch chooses, with or without iteration.
+TEST(RecalcTest, TableThatReadsEitherNeighbourSettlesInOnePass) {
+  for (const bool iteration : {false, true}) {
+    for (const int order : {0, 1}) {
+      Workbook book("Shear");
+      book.SetAutoRecalc(false);
+      book.SetIteration(iteration, 100, 0.001);
+      book.SetCellNumber(1, 1, order);
+      book.SetCellText(1, 2, "Shear");
+      constexpr int kRows = 2000;
+      for (int row = 2; row <= kRows + 1; ++row) {
+        book.SetCellFormula(row, 2,
+                            "1+IF($A$1=0,IF(ISTEXT(B" + std::to_string(row - 1) + "),0,B" +
+                                std::to_string(row - 1) + "),IF(ISNUMBER(B" +
+                                std::to_string(row + 1) + "),B" + std::to_string(row + 1) + ",0))");
+      }
+      book.Recalc();
+      EXPECT_EQ(book.CellValue(order == 0 ? kRows + 1 : 2, 2), N(kRows)) << iteration << order;
+      EXPECT_EQ(book.CellValue(order == 0 ? 2 : kRows + 1, 2), N(1)) << iteration << order;
+    }
+  }
+}
+
 TEST(RecalcTest, IterationSolvesACircularReference) {
   Workbook book("Iterate");
   book.SetAutoRecalc(false);

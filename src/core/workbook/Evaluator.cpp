@@ -50,8 +50,14 @@ int CompareText(const std::string& a, const std::string& b) {
 
 }  // namespace
 
+CellReadObserver*& CurrentCellReadObserver() {
+  thread_local CellReadObserver* observer = nullptr;
+  return observer;
+}
+
 const Value& ValueAt(const Sheet& sheet, int row, int col) {
   static const Value kEmpty;
+  if (CellReadObserver* observer = CurrentCellReadObserver()) observer->Read(sheet, row, col);
   const Cell* cell = sheet.Find(row, col);
   return cell ? cell->value : kEmpty;
 }

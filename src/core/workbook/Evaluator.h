@@ -32,6 +32,16 @@ struct Operand {
 // The value of a cell of a range's sheet; an unwritten cell is empty.
 const Value& ValueAt(const Sheet& sheet, int row, int col);
 
+// Sees every cell that an evaluation reads. Recalculation sets one while it orders a
+// circular group of cells by the reads that actually happen.
+class CellReadObserver {
+ public:
+  virtual ~CellReadObserver() = default;
+  virtual void Read(const Sheet& sheet, int row, int col) = 0;
+};
+// The observer of this thread's evaluations; null when none.
+CellReadObserver*& CurrentCellReadObserver();
+
 // Conversions of the language: each gives the error value that the context yields.
 std::optional<ErrorCode> ToNumber(const Value& value, double& number);
 std::optional<ErrorCode> ToText(const Value& value, std::string& text);

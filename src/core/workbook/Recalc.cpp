@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "BookRegistry.h"
+#include "Evaluator.h"
 #include "FormulaAst.h"
 #include "Workbook.h"
 
@@ -99,21 +100,112 @@ class DependencyGraph {
   std::unordered_map<int, std::vector<int>> nameEdges_;
 };
 
-// Evaluates one formula cell into its cached value; false when the cell keeps its value.
-// `delta` gets the change of a number, or infinity for any other change.
-bool Calculate(Workbook& book, const RecalcState::Item& item, double& delta) {
-  delta = 0;
-  if (item.sheet >= book.SheetCount()) return false;
+// The formula cell of an item that calculation may evaluate, or null.
+Cell* FormulaCellOf(Workbook& book, const RecalcState::Item& item) {
+  if (item.sheet >= book.SheetCount()) return nullptr;
   Cell* cell = book.GetSheet(item.sheet + 1).Find(item.row, item.col);
-  if (cell == nullptr || !cell->IsFormula() || HasUnboundLink(*cell->formula)) return false;
-  Value value = Evaluate(*cell->formula, FormulaHost{&book, item.sheet, {item.row, item.col}});
-  if (value == cell->value) return false;
-  delta = value.IsNumber() && cell->value.IsNumber()
-              ? std::fabs(value.AsNumber() - cell->value.AsNumber())
+  if (cell == nullptr || !cell->IsFormula() || HasUnboundLink(*cell->formula)) return nullptr;
+  return cell;
+}
+
+Value EvaluateItem(Workbook& book, const Cell& cell, const RecalcState::Item& item) {
+  return Evaluate(*cell.formula, FormulaHost{&book, item.sheet, {item.row, item.col}});
+}
+
+// Keeps a new value in the cell; false when it is the value the cell had. `delta` gets the
+// change of a number, or infinity for any other change.
+bool Store(Cell& cell, Value value, double& delta) {
+  delta = 0;
+  if (value == cell.value) return false;
+  delta = value.IsNumber() && cell.value.IsNumber()
+              ? std::fabs(value.AsNumber() - cell.value.AsNumber())
               : std::numeric_limits<double>::infinity();
-  cell->value = std::move(value);
+  cell.value = std::move(value);
   return true;
 }
+
+// Evaluates one formula cell into its cached value; false when the cell keeps its value.
+bool Calculate(Workbook& book, const RecalcState::Item& item, double& delta) {
+  delta = 0;
+  Cell* cell = FormulaCellOf(book, item);
+  return cell != nullptr && Store(*cell, EvaluateItem(book, *cell, item), delta);
+}
+
+// Calculates a circular group in the order in which its cells actually read each other: a
+// cell that read a member not yet calculated in this pass waits until that member is done.
+// A table whose rows refer both ways under an IF (shear from the row above or below, by
+// Order) is circular only on paper and settles in one pass this way. False when the reads
+// themselves go round; the members done by then keep their new values.
+class ReadOrder : public CellReadObserver {
+ public:
+  ReadOrder(Workbook& book, const std::vector<RecalcState::Item>& members)
+      : book_(book), members_(members), state_(members.size(), kWaiting) {
+    sheets_.reserve(static_cast<std::size_t>(book.SheetCount()));
+    for (int s = 1; s <= book.SheetCount(); ++s) sheets_.push_back(&book.GetSheet(s));
+    where_.reserve(members.size());
+    for (std::size_t i = 0; i < members.size(); ++i) where_.emplace(Key(members[i]), i);
+  }
+
+  bool Run(bool& changed) {
+    CellReadObserver*& observer = CurrentCellReadObserver();
+    CellReadObserver* const outer = observer;
+    observer = this;
+    const bool settled = Settle(changed);
+    observer = outer;
+    return settled;
+  }
+
+  void Read(const Sheet& sheet, int row, int col) override {
+    if (missing_ != kNone) return;
+    const auto s = std::find(sheets_.begin(), sheets_.end(), &sheet);
+    if (s == sheets_.end()) return;
+    const auto it = where_.find(Key({static_cast<std::int32_t>(s - sheets_.begin()), row, col}));
+    if (it != where_.end() && state_[it->second] != kDone) missing_ = it->second;
+  }
+
+ private:
+  enum State : char { kWaiting, kOnStack, kDone };
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  static std::uint64_t Key(const RecalcState::Item& item) {
+    return (static_cast<std::uint64_t>(item.sheet) << 48) |
+           (static_cast<std::uint64_t>(static_cast<std::uint32_t>(item.row)) << 24) |
+           static_cast<std::uint32_t>(item.col);
+  }
+
+  bool Settle(bool& changed) {
+    std::vector<std::size_t> stack;
+    double delta = 0;
+    for (std::size_t first = 0; first < members_.size(); ++first) {
+      if (state_[first] == kDone) continue;
+      stack.push_back(first);
+      while (!stack.empty()) {
+        const std::size_t at = stack.back();
+        state_[at] = kOnStack;
+        Cell* cell = FormulaCellOf(book_, members_[at]);
+        missing_ = kNone;
+        Value value = cell ? EvaluateItem(book_, *cell, members_[at]) : Value();
+        if (missing_ == kNone) {
+          if (cell) changed |= Store(*cell, std::move(value), delta);
+          state_[at] = kDone;
+          stack.pop_back();
+        } else if (state_[missing_] == kOnStack) {
+          return false;
+        } else {
+          stack.push_back(missing_);
+        }
+      }
+    }
+    return true;
+  }
+
+  Workbook& book_;
+  const std::vector<RecalcState::Item>& members_;
+  std::vector<State> state_;
+  std::vector<const Sheet*> sheets_;
+  std::unordered_map<std::uint64_t, std::size_t> where_;
+  std::size_t missing_ = kNone;
+};
 
 // A cycle without iteration: every cell of it shows #VALUE!.
 bool MarkCycle(Workbook& book, const std::vector<RecalcState::Item>& items) {
@@ -217,6 +309,7 @@ void RecalcState::Run(Workbook& book) {
     }
     const std::vector<Item> members(state.items.begin() + group.begin,
                                     state.items.begin() + group.end);
+    if (ReadOrder(book, members).Run(changed)) continue;
     if (!book.IterationOn()) {
       changed |= MarkCycle(book, members);
       continue;
