@@ -315,7 +315,7 @@ void frmWindProp::Form_Deactivate() {
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_.prompt, error);
   }
-  app_.report.CreateReport(app_);
+  if (reportOnLeave_) app_.report.CreateReport(app_);
 }
 
 void frmWindProp::Command1_Click() {

@@ -48,6 +48,10 @@ class frmWindProp : public QDialog {
   // Command2, the close box and Escape: hides the form and writes nothing.
   void reject() override;
 
+  // The simplified dialog, which opens this one on its topography tab, builds the report
+  // itself afterwards; meanwhile leaving this form writes the cells only.
+  void SetReportOnLeave(bool on) { reportOnLeave_ = on; }
+
  protected:
   void showEvent(QShowEvent* event) override;
 
@@ -77,6 +81,7 @@ class frmWindProp : public QDialog {
   WindProperties held_;
   std::string heightAtActivation_;
   bool cancelled_ = false;
+  bool reportOnLeave_ = true;
 };
 
 // The dialog of the program, created on first use for this application and then kept.

@@ -188,6 +188,20 @@ TEST(WindPropertiesDialogTest, CancelAndBadInputWriteNothing) {
   }
 }
 
+TEST(WindPropertiesDialogTest, LeavingFromTheTopographyTabResetsTheQiHeight) {
+  for (const int tab : {1, 4}) {
+    DialogApp d;
+    wb::WriteNamedNumber(d.Project(), "Fig63UseQi", 1);
+    wb::WriteNamedNumber(d.Project(), "Fig63Z", 30);
+    frmWindProp form(d.app);
+    form.TabSelect(tab);
+    form.show();
+    form.Command1_Click();
+    EXPECT_EQ(d.Number("B144"), tab == 4 ? 0 : 1);
+    EXPECT_EQ(d.Number("B145"), tab == 4 ? 60 : 30);
+  }
+}
+
 TEST(WindPropertiesDialogTest, UserIntervalsDisableTheHeightButItsRuleStillHolds) {
   DialogApp d;
   wb::WriteNamedNumber(d.Project(), "Interval", 5);
