@@ -16,13 +16,14 @@
 #include "core/workbook/Workbook.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
+#include "ui/frmNew.h"
 #include "ui/frmWindProp.h"
 
 namespace gustline {
 
 void MainFrm::FileNewCommand() {
   if (!app_) return;
-  FileNew(*app_, [] { return std::optional<std::string>("Normal"); });
+  FileNew(*app_, [this] { return ChooseNewProject(this); });
 }
 
 void MainFrm::FileExitCommand() {

@@ -8,7 +8,14 @@
 #include "core/FileOpen.h"
 #include "core/FileSave.h"
 #include "core/FileSaveAs.h"
+#include "factors/frmMinPressure.h"
 #include "report/qt/MainFrm.h"
+#include "report/qt/ReportPrinting.h"
+#include "ui/About.h"
+#include "ui/Headings.h"
+#include "ui/PageSetup.h"
+#include "ui/Template.h"
+#include "ui/Units.h"
 
 namespace gustline {
 namespace {
@@ -75,7 +82,9 @@ void MainFrm::BuildMenus() {
   AddEntry(file, "mnuFileOpen", "&Open...", "Open an existing project.", [this] {
     WithApplication(FileOpen);
   })->setShortcut(QKeySequence::Open);
-  AddEntry(file, "mnuFileTemplate", "&Template...", "Change default template.", nullptr);
+  AddEntry(file, "mnuFileTemplate", "&Template...", "Change default template.", [this] {
+    if (app_) ShowTemplate(this, *app_);
+  });
   file->addSeparator();
   AddEntry(file, "mnuFileSave", "&Save", "Save the active project.", [this] {
     WithApplication(FileSave);
@@ -86,7 +95,9 @@ void MainFrm::BuildMenus() {
   AddEntry(file, "mnuFilePrintSetup", "Print Set&up...",
            "Select printer, page orientation and paper size.", [this] { PrintSetupCommand(); });
   AddEntry(file, "mnuFilePageSetup", "Pag&e Setup...",
-           "Define header, page margins, page centering.", [this] { RefreshStatusSummary(); });
+           "Define header, page margins, page centering.", [this] {
+             if (app_) ShowPageSetup(this, *app_, report::PrinterIsLandscape());
+           });
   AddEntry(file, "mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report.", [this] {
     PrintCommand();
   })->setShortcut(QKeySequence::Print);
@@ -168,8 +179,9 @@ void MainFrm::BuildMenus() {
   AddEntry(parameters, "mnuInternal", "&Internal Pressure Coefficient...",
            "Set internal pressure coefficient for buildings, GCpi.",
            [this] { OpenWindProperties(6); });
-  AddEntry(parameters, "mnuMinPressure", "&Minimum Wind Pressure...", nullptr,
-           [this] { RefreshStatusSummary(); });
+  AddEntry(parameters, "mnuMinPressure", "&Minimum Wind Pressure...", nullptr, [this] {
+    if (app_) ShowMinPressure(this, *app_);
+  });
   parameters->addSeparator();
   AddEntry(parameters, "mnuPropertiesIntervals", "&Height Intervals...",
            "Select height intervals, and order.", [this] { RefreshStatusSummary(); });
@@ -177,11 +189,13 @@ void MainFrm::BuildMenus() {
            "Enter geometry X-Y coordinates.", [this] { RefreshStatusSummary(); });
   parameters->addSeparator();
   AddEntry(parameters, "mnuPropertiesHeadings", "Page Headings...",
-           "Set page heading properties for ASCE 7-05 gustline report.",
-           [this] { RefreshStatusSummary(); });
+           "Set page heading properties for ASCE 7-05 gustline report.", [this] {
+             if (app_) ShowHeadings(this, *app_);
+           });
   AddEntry(parameters, "mnuPropertiesUnits", "&Units...",
-           "Select units of measure for pressure, force and moment.",
-           [this] { RefreshStatusSummary(); });
+           "Select units of measure for pressure, force and moment.", [this] {
+             if (app_) ShowUnits(this, *app_);
+           });
 
   QMenu* format = AddMenu(nullptr, "mnuFormat", "F&ormat");
   AddEntry(format, "mnuFormatWidth", "Column &Width", "Change column width.",
@@ -200,7 +214,8 @@ void MainFrm::BuildMenus() {
     HelpContents();
   })->setShortcut(QKeySequence(Qt::Key_F1));
   AddEntry(help, "mnuHelpAbout", "&About ",
-           "Displays program information, version number and copyright.", nullptr);
+           "Displays program information, version number and copyright.",
+           [this] { ShowAbout(this); });
 }
 
 void MainFrm::BuildPopup() {
