@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <QShowEvent>
+#include <initializer_list>
 
 #include "buildings/Fig610.h"
 #include "buildings/Fig66.h"
@@ -201,10 +202,10 @@ void frmWindProp::UpdateForceFactorScreen() {
   ui_->List1->setCurrentRow(FigureListIndex(system, structure, figure));
   ui_->List1->setEnabled(screen.figuresEnabled);
   ui_->Command10->setEnabled(screen.figuresEnabled);
-  ui_->List2->setCurrentRow(held_.table > 0 ? held_.table - 1 : 0);
+  // `Table` 0, nothing chosen yet, shows no selection.
+  ui_->List2->setCurrentRow(held_.table - 1);
   for (QWidget* widget :
-       {static_cast<QWidget*>(ui_->List2), static_cast<QWidget*>(ui_->Command5),
-        static_cast<QWidget*>(ui_->Label12), static_cast<QWidget*>(ui_->Label17)}) {
+       std::initializer_list<QWidget*>{ui_->List2, ui_->Command5, ui_->Label12, ui_->Label17}) {
     widget->setEnabled(screen.tablesEnabled);
   }
 }
@@ -229,8 +230,7 @@ void frmWindProp::UpdateRiFrame() {
   ui_->Option8_1->setEnabled(partiallyEnclosed);
   const bool computed = partiallyEnclosed && ri_->checkedId() == 1;
   for (QWidget* widget :
-       {static_cast<QWidget*>(ui_->TextAog), static_cast<QWidget*>(ui_->TextVi),
-        static_cast<QWidget*>(ui_->Label13), static_cast<QWidget*>(ui_->Label14)}) {
+       std::initializer_list<QWidget*>{ui_->TextAog, ui_->TextVi, ui_->Label13, ui_->Label14}) {
     widget->setEnabled(computed);
   }
 }
