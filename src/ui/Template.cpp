@@ -1,8 +1,11 @@
 #include "ui/Template.h"
 
 #include "core/Application.h"
+#include "core/FacilityErrorReport.h"
 #include "core/FileTemplate.h"
 #include "core/ProcessState.h"
+#include "core/StatusSummary.h"
+#include "core/workbook/FacilityError.h"
 #include "ui_Template.h"
 
 namespace gustline {
@@ -35,6 +38,11 @@ void Template::Command4_Click() {
 }
 
 bool ShowTemplate(QWidget* parent, Application& app) {
+  try {
+    UpdateStatusSummary(app.state.ProjectWorkbook(), app.view);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app.prompt, error);
+  }
   Template dialog(app, parent);
   return dialog.exec() == QDialog::Accepted;
 }

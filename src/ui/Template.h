@@ -33,7 +33,8 @@ class Template : public QDialog {
   std::unique_ptr<Ui::Template> ui_;
 };
 
-// The menu entry: shows the dialog modally; true when a template was accepted.
+// The menu entry: refreshes the status summary and shows the dialog modally; true when a
+// template was accepted.
 bool ShowTemplate(QWidget* parent, Application& app);
 
 }  // namespace gustline
