@@ -8,7 +8,10 @@ namespace gustline {
 
 About::About(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::About>()) {
   ui_->setupUi(this);
-  ui_->lblVersion->setText(QStringLiteral("Version ") + QCoreApplication::applicationVersion());
+  // The version is the one the program gives itself at start; without it the line stays out.
+  const QString version = QCoreApplication::applicationVersion();
+  ui_->lblVersion->setText(QStringLiteral("Version ") + version);
+  ui_->lblVersion->setVisible(!version.isEmpty());
   connect(ui_->Command1, &QPushButton::clicked, this, &QDialog::accept);
 }
 
