@@ -18,6 +18,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Gustline"));
+  QApplication::setApplicationVersion(QStringLiteral(GUSTLINE_VERSION));
   QApplication::setQuitOnLastWindowClosed(false);
 
   gustline::ProcessState state;
