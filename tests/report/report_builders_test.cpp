@@ -1,0 +1,402 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "ReportFixture.h"
+#include "core/workbook/NamedCells.h"
+#include "core/workbook/Value.h"
+#include "report/HeightList.h"
+#include "report/ReportSelection.h"
+
+namespace gustline::report {
+namespace {
+
+using testing::ReportFixture;
+using enum TemplateContainer;
+using enum ReportBuilder;
+using Inputs = std::vector<std::pair<const char*, double>>;
+
+wb::Value N(double number) {
+  return wb::Value::Number(number);
+}
+wb::Value T(const char* text) {
+  return wb::Value::Text(text);
+}
+
+// A template of `sheets` pages "Page 1", "Page 2", ..., each with its own name in A2 so that
+// a page can be told after sheets are deleted, and the system lines on page 1.
+std::unique_ptr<wb::Workbook> PagesTemplate(const std::string& name, int sheets) {
+  auto book = std::make_unique<wb::Workbook>(name);
+  book->SetSheetName(1, "Page 1");
+  for (int sheet = 2; sheet <= sheets; ++sheet) book->AddSheet("Page " + std::to_string(sheet));
+  for (int sheet = 1; sheet <= sheets; ++sheet) {
+    book->SetActiveSheet(sheet);
+    book->SetCellText(2, 1, book->SheetName(sheet));
+  }
+  book->SetActiveSheet(1);
+  book->SetCellText(14, 2, "Main Wind-Force");
+  book->SetCellText(15, 2, "Resisting System");
+  return book;
+}
+
+// A pressures table in row 11 of a page: heights B:C and p = 2·z in D.
+void AddPressuresTable(wb::Workbook& book, int sheet, const char* start, const char* topRow) {
+  book.SetActiveSheet(sheet);
+  const std::string page = "'" + book.SheetName(sheet) + "'!";
+  book.SetCellFormula(11, 4, "C11*2");
+  book.SetDefinedName(start, page + "$B$11:$C$11");
+  book.SetDefinedName(topRow, page + "$D$11");
+}
+
+// The forces table on page 4: heights B:C, area D, p E from page 3, force F, running shear G,
+// F·z H, running moment I.
+void AddForcesTable(wb::Workbook& book) {
+  book.SetActiveSheet(4);
+  book.SetCellText(10, 7, "Shear");
+  book.SetCellText(10, 9, "Moment");
+  book.SetCellFormula(11, 5, "'Page 3'!D11");
+  book.SetCellFormula(11, 6, "D11*E11");
+  book.SetCellFormula(11, 7, "IF(ISNUMBER(G10),G10,0)+F11");
+  book.SetCellFormula(11, 8, "F11*C11");
+  book.SetCellFormula(11, 9, "IF(ISNUMBER(I10),I10,0)+H11");
+  book.SetDefinedName("Start2", "'Page 4'!$B$11:$C$11");
+  book.SetDefinedName("TopRow2", "'Page 4'!$E$11:$I$11");
+  book.SetDefinedName("StartArea", "'Page 4'!$D$11");
+}
+
+class ReportBuildersTest : public ::testing::Test, public ReportFixture {
+ protected:
+  void Build(const Inputs& inputs) {
+    for (const auto& [name, value] : inputs) Set(name, value);
+    prompt.messages.clear();
+    generator.CreateReport(app);
+    ASSERT_TRUE(prompt.messages.empty()) << prompt.messages.front().text;
+  }
+  // The inputs that the cases change, back at the default project's (h/w 0.6, no Note 5).
+  void Reset() {
+    for (const auto& [name, value] : Inputs{{"B124", 0},
+                                            {"System", 0},
+                                            {"Structure", 0},
+                                            {"Figure", 1},
+                                            {"Table", 0},
+                                            {"GustType", 0},
+                                            {"Table66RoofType", 1},
+                                            {"HasParapet", 1},
+                                            {"AspectRatio", 4},
+                                            {"Width", 100}})
+      Set(name, value);
+  }
+  bool Hidden(int sheet, int row) {
+    Report().SetActiveSheet(sheet);
+    return Report().RowHidden(row);
+  }
+
+  // The default project: 60 ft by the standard ladder, the highest interval first.
+  const int rows_ = CountHeightRows(60, 0, "");
+  const int lastRow_ = 11 + rows_ - 1;
+};
+
+// Every row of the decision tables, from the project's own cells.
+TEST_F(ReportBuildersTest, DecisionTablePicksTemplateContainerAndBuilder) {
+  struct Case {
+    Inputs in;
+    const char* name;
+    TemplateContainer container;
+    ReportBuilder builder;
+  };
+  const std::vector<Case> cases = {
+      {{{"B124", 1}, {"System", 0}, {"Structure", 2}}, "SimpMFWRS", F, SimplifiedMwfrs},
+      {{{"B124", 1}, {"System", 1}}, "SimpCompAndClad", F, Plain},
+      {{{"B124", 0.5}, {"System", 2}, {"Width", 0}}, "SimpCompAndClad", F, Plain},
+      {{{"Structure", 0}, {"Figure", 9}, {"GustType", 2}}, "Figure610", D, LowRise},
+      {{{"Structure", 1}, {"Figure", 1}, {"GustType", 0}}, "Figure66A", D, TablesWithAreas},
+      {{{"Structure", 1}, {"Figure", 1}, {"GustType", 1}}, "Figure66C", F, TablesWithAreas},
+      {{{"Structure", 1}, {"Figure", 8}, {"GustType", 0}}, "Figure68A", D, TablesWithAreas},
+      {{{"Structure", 1}, {"Figure", 8}, {"GustType", 1}}, "Figure68C", F, TablesWithAreas},
+      {{{"Structure", 1}, {"Figure", 9}, {"GustType", 0}}, "Figure67A", G, TablesWithAreas},
+      {{{"Structure", 1}, {"Figure", 9}, {"GustType", 1}}, "Figure67C", G, TablesWithAreas},
+      {{{"Structure", 2}, {"Figure", 1}, {"GustType", 2}}, "Figure66B", D, TablesWithAreas},
+      {{{"Structure", 2}, {"Figure", 8}, {"GustType", 1}}, "Figure68B", B, TablesWithAreas},
+      {{{"Structure", 2}, {"Figure", 9}, {"GustType", 0}}, "Figure67B", G, TablesWithAreas},
+      {{{"System", 1}, {"Figure", 3}}, "Figure611B", D, Cladding},
+      {{{"System", 1}, {"Figure", 4}}, "Figure613", D, Cladding},
+      {{{"System", 1}, {"Figure", 5}}, "Figure614A", D, Cladding},
+      {{{"System", 1}, {"Figure", 6}}, "Figure614B", D, Cladding},
+      {{{"System", 1}, {"Structure", 1}, {"Figure", 3}}, "Figure617", D, Figure617},
+      {{{"System", 1}, {"Structure", 2}, {"Figure", 8}}, "Figure68B", F, PlainWithHeading},
+      {{{"System", 1}, {"Structure", 2}, {"Figure", 1}}, "figure616A", G, PlainWithHeading},
+      {{{"System", 2}, {"Table", 0}, {"Table66RoofType", 1}}, "Figure618A", A, PlainWithHeading},
+      {{{"System", 2}, {"Table", 1}, {"Table66RoofType", 2}}, "Figure618B", A, PlainWithHeading},
+      {{{"System", 2}, {"Table", 0}, {"GustType", 1}, {"Table66RoofType", 3}},
+       "Fig618C",
+       F,
+       PlainWithHeading},
+      {{{"System", 2}, {"Table", 1}, {"GustType", 2}, {"Table66RoofType", 4}},
+       "Fig618D",
+       B,
+       PlainWithHeading},
+      {{{"System", 2}, {"Table", 2}, {"Table66RoofType", 1}}, "Fig619A", A, PlainWithHeading},
+      {{{"System", 2}, {"Table", 2}, {"GustType", 1}, {"Table66RoofType", 2}},
+       "Fig619B",
+       F,
+       PlainWithHeading},
+      {{{"System", 2}, {"Table", 2}, {"GustType", 2}, {"Table66RoofType", 3}},
+       "Fig619C",
+       B,
+       PlainWithHeading},
+      {{{"System", 2}, {"Table", 3}, {"GustType", 0}}, "Fig620", A, SolidSigns},
+      {{{"System", 2}, {"Table", 3}, {"GustType", 1}}, "Fig620", F, SolidSigns},
+      {{{"System", 2}, {"Table", 3}, {"GustType", 2}}, "Fig620", B, SolidSigns},
+      {{{"System", 2}, {"Table", 4}, {"GustType", 0}}, "Figure619A", A, Figure621},
+      {{{"System", 2}, {"Table", 4}, {"GustType", 1}}, "Figure619C", F, Figure621},
+      {{{"System", 2}, {"Table", 4}, {"GustType", 2}}, "Figure619B", B, Figure621},
+      {{{"System", 2}, {"Table", 5}, {"GustType", 0}}, "Figure621A", A, Figure622},
+      {{{"System", 2}, {"Table", 5}, {"GustType", 1}}, "Figure621C", F, Figure622},
+      {{{"System", 2}, {"Table", 5}, {"GustType", 2}}, "Figure621B", B, Figure622},
+      {{{"System", 2}, {"Table", 6}, {"GustType", 0}}, "Figure622A", A, Figure623},
+      {{{"System", 2}, {"Table", 6}, {"GustType", 1}}, "Figure622C", F, Figure623},
+      {{{"System", 2}, {"Table", 6}, {"GustType", 2}}, "Figure622B", B, Figure623},
+      {{{"System", 2}, {"Table", 7}, {"GustType", 0}}, "TableSpecial", D, SpecialCase},
+      {{{"System", 2}, {"Table", 7}, {"GustType", 1}}, "TableSpecialD", F, SpecialCase},
+      {{{"System", 2}, {"Table", 7}, {"GustType", 2}}, "TableSpecialB", D, SpecialCase},
+  };
+  for (const Case& c : cases) {
+    Reset();
+    for (const auto& [name, value] : c.in) Set(name, value);
+    const Selection selection = SelectTemplate(ReadSelectionInputs(Project()));
+    const auto* chosen = std::get_if<ChosenTemplate>(&selection);
+    ASSERT_NE(chosen, nullptr) << c.name;
+    EXPECT_EQ(chosen->id, (TemplateId{c.name, c.container})) << c.name;
+    EXPECT_EQ(chosen->builder, c.builder) << c.name;
+  }
+}
+
+// The builders without height rows: what each leaves of a five-page template.
+TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
+  struct Case {
+    const char* what;
+    const char* name;
+    TemplateContainer container;
+    Inputs in;
+    std::vector<std::string> pages;  // the template's pages that stay, in their order
+    int hiddenSheet = 0;             // 0: no rows hidden
+    int firstHidden = 0, lastHidden = 0;
+    bool parapetKept = true;  // the IncludeParapet block of page 3
+  };
+  const std::vector<std::string> all = {"Page 1", "Page 2", "Page 3", "Page 4", "Page 5"};
+  const std::vector<std::string> noPage4 = {"Page 1", "Page 2", "Page 3", "Page 5"};
+  const std::vector<Case> cases = {
+      {"low-rise, no parapet", "Figure610", D, {{"HasParapet", 0}}, all, 0, 0, 0, false},
+      {"low-rise, parapet", "Figure610", D, {{"HasParapet", 1}}, all},
+      {"6-11B, no parapet",
+       "Figure611B",
+       D,
+       {{"System", 1}, {"Figure", 3}, {"HasParapet", 0}},
+       noPage4},
+      {"6-13, parapet", "Figure613", D, {{"System", 1}, {"Figure", 4}}, all},
+      {"6-14A, no parapet",
+       "Figure614A",
+       D,
+       {{"System", 1}, {"Figure", 5}, {"HasParapet", 0}},
+       noPage4},
+      {"6-14B, parapet", "Figure614B", D, {{"System", 1}, {"Figure", 6}}, all},
+      {"simplified, 25 degrees",
+       "SimpMFWRS",
+       F,
+       {{"B124", 1}, {"SimplifiedAngle", 25}},
+       all,
+       2,
+       45,
+       59},
+      {"simplified, above 25", "SimpMFWRS", F, {{"B124", 1}, {"SimplifiedAngle", 25.5}}, all},
+      {"signs, G 0.85",
+       "Fig620",
+       A,
+       {{"System", 2}, {"Table", 3}, {"AspectRatio", 1.99}},
+       all,
+       3,
+       28,
+       39},
+      {"signs, rigid",
+       "Fig620",
+       F,
+       {{"System", 2}, {"Table", 3}, {"GustType", 1}, {"AspectRatio", 1.99}},
+       all,
+       4,
+       28,
+       39},
+      {"signs, flexible",
+       "Fig620",
+       B,
+       {{"System", 2}, {"Table", 3}, {"GustType", 2}, {"AspectRatio", 0.5}},
+       all,
+       4,
+       28,
+       39},
+      {"signs, B/s of 2", "Fig620", A, {{"System", 2}, {"Table", 3}, {"AspectRatio", 2}}, all},
+  };
+  for (const Case& c : cases) {
+    auto book = PagesTemplate(c.name, 5);
+    book->SetActiveSheet(3);
+    book->SetCellText(40, 1, "Parapet");
+    book->SetDefinedName("IncludeParapet", "'Page 3'!$A$40:$B$41");
+    for (int sheet = 2; sheet <= 4; ++sheet) {
+      book->SetActiveSheet(sheet);
+      for (int row = 20; row <= 70; ++row) book->SetCellNumber(row, 2, row);
+    }
+    // The simplified builder hides its rows on the sheet the template opens at.
+    book->SetActiveSheet(2);
+    Install(*book, c.container);
+    Reset();
+    Build(c.in);
+    ASSERT_EQ(generator.TemplateName(), c.name) << c.what;
+
+    ASSERT_EQ(Report().SheetCount(), static_cast<int>(c.pages.size())) << c.what;
+    for (int sheet = 1; sheet <= Report().SheetCount(); ++sheet)
+      EXPECT_EQ(Cell(sheet, 2, 1), T(c.pages[sheet - 1].c_str())) << c.what;
+    EXPECT_EQ(Cell(1, 14, 2), T("Main Wind-Force")) << c.what;
+    EXPECT_EQ(Cell(3, 40, 1).IsEmpty(), !c.parapetKept) << c.what;
+    for (int sheet = 2; sheet <= Report().SheetCount(); ++sheet)
+      for (int row = 20; row <= 70; ++row) {
+        const bool hidden = sheet == c.hiddenSheet && row >= c.firstHidden && row <= c.lastHidden;
+        EXPECT_EQ(Hidden(sheet, row), hidden) << c.what << ", sheet " << sheet << ", row " << row;
+      }
+  }
+}
+
+// Figure 6-17: two pressure tables without areas, one on page 3 and one after the parapet
+// page, which goes when there are no parapets.
+TEST_F(ReportBuildersTest, Figure617RepeatsTwoTablesAndDropsTheParapetPage) {
+  struct Case {
+    double angle;
+    double parapets;
+    bool addTableKept;
+    std::vector<std::string> sheetNames;
+    std::vector<std::string> pages;  // the template's pages that stay
+    int secondTableSheet;
+  };
+  const std::vector<Case> cases = {
+      {10,
+       1,
+       true,
+       {"Page 1", "Page 2", "Page 3", "Parapet", "Page 5", "Page 6"},
+       {"Page 1", "Page 2", "Page 3", "Parapet", "Page 5", "Page 6"},
+       5},
+      {9.99,
+       0,
+       false,
+       {"Page 1", "Page 2", "Page 3", "Page 4", "Page 5"},
+       {"Page 1", "Page 2", "Page 3", "Page 5", "Page 6"},
+       4},
+  };
+  auto book = PagesTemplate("Figure617", 6);
+  book->SetSheetName(4, "Parapet");
+  book->SetActiveSheet(4);
+  book->SetCellText(2, 1, "Parapet");
+  AddPressuresTable(*book, 3, "Start", "TopRow");
+  AddPressuresTable(*book, 5, "Start1", "TopRow1");
+  book->SetActiveSheet(3);
+  book->SetCellText(40, 1, "Additional");
+  book->SetDefinedName("AddTable", "'Page 3'!$A$40:$B$41");
+  Install(*book, D);
+  for (const Case& c : cases) {
+    Reset();
+    Build(
+        {{"System", 1}, {"Structure", 1}, {"Figure68Angle", c.angle}, {"HasParapets", c.parapets}});
+    ASSERT_EQ(generator.TemplateName(), "Figure617");
+    ASSERT_EQ(Report().SheetCount(), static_cast<int>(c.pages.size())) << c.angle;
+    for (int sheet = 1; sheet <= Report().SheetCount(); ++sheet) {
+      EXPECT_EQ(Report().SheetName(sheet), c.sheetNames[sheet - 1]) << c.angle;
+      EXPECT_EQ(Cell(sheet, 2, 1), T(c.pages[sheet - 1].c_str())) << c.angle;
+    }
+    EXPECT_EQ(Cell(1, 14, 2), T("Main Wind-Force"));
+    EXPECT_EQ(Cell(3, 40, 1).IsEmpty(), !c.addTableKept) << c.angle;
+    for (const int sheet : {3, c.secondTableSheet}) {
+      EXPECT_EQ(Cell(sheet, 11, 3), N(60)) << "sheet " << sheet;
+      EXPECT_EQ(Cell(sheet, lastRow_, 2), N(0));
+      EXPECT_EQ(Cell(sheet, lastRow_, 4), N(30));
+      EXPECT_TRUE(Cell(sheet, lastRow_ + 1, 4).IsEmpty());
+      EXPECT_EQ(Report().GetCellStyle(lastRow_, 2).bottom.style, 1);
+      EXPECT_TRUE(Cell(sheet, lastRow_ + 4, 2).IsEmpty()) << "no summary without areas";
+    }
+  }
+}
+
+// Figures 6-21 to 6-23 and the special case: a pressures table with its input list, and one
+// forces table with areas and the summary block.
+TEST_F(ReportBuildersTest, TwoTableBuildersFillTheirListAndAreas) {
+  struct Case {
+    const char* name;
+    TemplateContainer container;
+    int table;
+    int gustType;
+    const char* listTarget;  // none for Figure 6-22
+    std::vector<double> list;
+    std::vector<double> areas;  // empty: the outline's, 50 ft wide
+  };
+  const std::vector<double> ratios = {0.1, 0.15, 0.2, 0.25, 0.3, 0.35, 0.4};
+  const std::vector<double> special = {100, 200, 300, 400, 500, 600, 700};
+  const std::vector<Case> cases = {
+      {"Figure619B", B, 4, 2, "StartDiam", {10, 20, 30, 40, 50, 60, 70}, {}},
+      {"Figure621C", F, 5, 1, nullptr, {}, {}},
+      {"Figure622A", A, 6, 0, "RatioE", ratios, {}},
+      {"Figure622B", B, 6, 2, "RatioE", ratios, {}},
+      {"TableSpecial", D, 7, 0, "CfFactors", {1.2, 1.3, 1.4, 1.5, 1.6, 1.7, 1.8}, special},
+      {"TableSpecialD", F, 7, 1, "CfFactors", {2, 2, 2, 2, 2, 2, 2}, special},
+      {"TableSpecialB", D, 7, 2, "CfFactors", {0.5, 0.5, 0.5, 0.5, 0.5, 0.5, 0.5}, special},
+  };
+  const auto commaList = [](const std::vector<double>& values) {
+    std::string text;
+    for (const double value : values) text += wb::FormatShortest(value) + ",";
+    return text;
+  };
+  for (const Case& c : cases) {
+    auto book = PagesTemplate(c.name, 4);
+    AddPressuresTable(*book, 3, "Start", "TopRow");
+    if (c.listTarget != nullptr) book->SetDefinedName(c.listTarget, "'Page 3'!$F$11");
+    AddForcesTable(*book);
+    Install(*book, c.container);
+    Reset();
+    wb::WriteNamedText(Project(), "Table67Dia", "1,1,1,1,1,1,1");
+    wb::WriteNamedText(Project(), "Table610Ratios", "1,1,1,1,1,1,1");
+    wb::WriteNamedText(Project(), "TableSpecialCoefficients", "1,1,1,1,1,1,1");
+    const char* listName = c.table == 4   ? "Table67Dia"
+                           : c.table == 6 ? "Table610Ratios"
+                                          : "TableSpecialCoefficients";
+    wb::WriteNamedText(Project(), listName, commaList(c.list));
+    wb::WriteNamedText(Project(), "TableSpecialProjAreas", commaList(special));
+    Build({{"System", 2}, {"Table", c.table}, {"GustType", c.gustType}});
+    ASSERT_EQ(generator.TemplateName(), c.name);
+    ASSERT_EQ(Report().SheetCount(), 4) << c.name;
+
+    for (int i = 0; i < rows_; ++i) {
+      const wb::Value listed = c.list.empty() ? wb::Value() : N(c.list[i]);
+      EXPECT_EQ(Cell(3, 11 + i, 6), listed) << c.name << ", row " << 11 + i;
+      if (!c.areas.empty()) {
+        EXPECT_EQ(Cell(4, 11 + i, 4), N(c.areas[i])) << c.name;
+      }
+      EXPECT_EQ(Cell(3, 11 + i, 4), Cell(4, 11 + i, 5)) << "the forces row reads its own row";
+    }
+    if (c.areas.empty()) {
+      EXPECT_NEAR(Cell(4, lastRow_, 4).AsNumber(), 750, 0.5) << c.name;
+    }
+    const int s = lastRow_ + 4;
+    EXPECT_EQ(Cell(4, s, 2), T("Total Area")) << c.name;
+    EXPECT_NEAR(Cell(4, s, 4).AsNumber(), c.areas.empty() ? 3000 : 2800, 0.5) << c.name;
+    EXPECT_EQ(Cell(4, s + 1, 2), T("Base Shear"));
+    EXPECT_EQ(Formula(4, s + 1, 4), "$G$" + std::to_string(lastRow_));
+    EXPECT_EQ(Cell(4, s + 1, 4), Cell(4, lastRow_, 7));
+    EXPECT_EQ(Formula(4, s + 2, 5), "[WindData]sheet3!U_Str_Moment");
+    // The closing line starts two columns left of the sample row: B on page 3, C on page 4.
+    EXPECT_EQ(Report().GetCellStyle(lastRow_, 3).bottom.style, 1);
+    Report().SetActiveSheet(3);
+    EXPECT_EQ(Report().GetCellStyle(lastRow_, 2).bottom.style, 1);
+  }
+}
+
+}  // namespace
+}  // namespace gustline::report
