@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 #include "BookAssembler.h"
 #include "core/workbook/FacilityError.h"
@@ -162,17 +163,15 @@ TEST_F(BookAssemblerTest, LayoutSurvivesTheNativeFile) {
   EXPECT_EQ(page2.ColumnWidth(2), 12);
   EXPECT_EQ(page1.ColumnWidth(2), wb::Sheet::kDefaultColumnWidth);
 
-  EXPECT_EQ(page1.Print().footer, "&A");
-  EXPECT_EQ(page1.Print().leftMargin, 0.5);
-  EXPECT_EQ(page1.Print().rightMargin, 0);
-  EXPECT_EQ(page1.Print().topMargin, 0.75);
-  EXPECT_EQ(page1.Print().bottomMargin, 0.5);
-  EXPECT_TRUE(page1.Print().fitToPages);
-  EXPECT_FALSE(page1.Print().landscape);
-  EXPECT_TRUE(page2.Print().landscape);
-  EXPECT_FALSE(page2.Print().fitToPages);
-  EXPECT_EQ(page2.Print().scale, 80);
-  EXPECT_EQ(page2.Print().footer, "&A");
+  const wb::PrintSetup& print1 = page1.Print();
+  const wb::PrintSetup& print2 = page2.Print();
+  EXPECT_EQ(
+      std::tuple(print1.leftMargin, print1.rightMargin, print1.topMargin, print1.bottomMargin),
+      std::tuple(0.5, 0.0, 0.75, 0.5));
+  EXPECT_EQ(std::tuple(print1.footer, print1.fitToPages, print1.landscape),
+            std::tuple("&A", true, false));
+  EXPECT_EQ(std::tuple(print2.footer, print2.fitToPages, print2.landscape, print2.scale),
+            std::tuple("&A", false, true, 80));
 
   // Borders of B4:D6: thin on each cell, medium on the outline; C5 lost its bold only.
   struct StyleCase {
@@ -181,23 +180,19 @@ TEST_F(BookAssemblerTest, LayoutSurvivesTheNativeFile) {
     bool bold;
     std::uint32_t fill;
   };
-  const StyleCase cases[] = {
-      {4, 2, 2, 1, 2, 1, false, 0xFFFFFF},
-      {5, 3, 1, 1, 1, 1, false, 0xFFFF00},
-      {6, 4, 1, 2, 1, 2, false, 0xFFFFFF},
-  };
+  const StyleCase cases[] = {{4, 2, 2, 1, 2, 1, false, 0xFFFFFF},
+                             {5, 3, 1, 1, 1, 1, false, 0xFFFF00},
+                             {6, 4, 1, 2, 1, 2, false, 0xFFFFFF}};
   read.SetActiveSheet(1);
   for (const auto& c : cases) {
     const wb::CellStyle& style = read.GetCellStyle(c.row, c.col);
     const auto where = "row " + std::to_string(c.row) + " col " + std::to_string(c.col);
-    EXPECT_EQ(style.left.style, c.left) << where;
-    EXPECT_EQ(style.right.style, c.right) << where;
-    EXPECT_EQ(style.top.style, c.top) << where;
-    EXPECT_EQ(style.bottom.style, c.bottom) << where;
-    EXPECT_EQ(style.font.bold, c.bold) << where;
-    EXPECT_EQ(style.fill, c.fill) << where;
-    EXPECT_EQ(style.numberFormat, "0.000") << where;
-    EXPECT_EQ(style.hAlign, wb::HAlign::Right) << where;
+    EXPECT_EQ(std::tuple(style.left.style, style.right.style, style.top.style, style.bottom.style),
+              std::tuple(c.left, c.right, c.top, c.bottom))
+        << where;
+    EXPECT_EQ(std::tuple(style.font.bold, style.fill, style.numberFormat, style.hAlign),
+              std::tuple(c.bold, c.fill, "0.000", wb::HAlign::Right))
+        << where;
     EXPECT_EQ(style.font.name, "Times New Roman") << where;
   }
   const wb::CellStyle& title = read.GetCellStyle(1, 1);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
+#include <tuple>
 
 #include "BuiltWindData.h"
 
@@ -22,25 +24,19 @@ class WindFactorsTest : public ::testing::Test {
 };
 
 TEST_F(WindFactorsTest, DefaultProjectHasNoTopographicEffect) {
-  EXPECT_EQ(Number(*book_, "HLh"), 0.5);
-  EXPECT_EQ(Number(*book_, "K1Mult"), 0);
-  EXPECT_EQ(Number(*book_, "XLh"), 0.25);
-  EXPECT_EQ(Number(*book_, "Lh"), 400);
-  EXPECT_EQ(Number(*book_, "K2Mult"), 0);
-  EXPECT_EQ(Number(*book_, "K3_Z"), 1);
-  EXPECT_EQ(Number(*book_, "IsKztOne"), 0);
-  EXPECT_EQ(Number(*book_, "Kzt"), 1);
+  const std::pair<const char*, double> factors[] = {{"HLh", 0.5},    {"K1Mult", 0}, {"XLh", 0.25},
+                                                    {"Lh", 400},     {"K2Mult", 0}, {"K3_Z", 1},
+                                                    {"IsKztOne", 0}, {"Kzt", 1}};
+  for (const auto& [name, value] : factors) EXPECT_EQ(Number(*book_, name), value) << name;
   EXPECT_EQ(wb::ReadNamedText(*book_, "HillName"), "None");
 }
 
 TEST_F(WindFactorsTest, RidgeInExposureCGivesTheWorkedKzt) {
   SetHill(2, 0, 100, 300, 100);
-  EXPECT_NEAR(Number(*book_, "HLh"), 1.0 / 3, 1e-12);
-  EXPECT_NEAR(Number(*book_, "K1Mult"), 0.4823333333, 1e-10);
-  EXPECT_NEAR(Number(*book_, "XLh"), 1.0 / 3, 1e-12);
-  EXPECT_NEAR(Number(*book_, "K2Mult"), 0.7777777778, 1e-10);
-  EXPECT_NEAR(Number(*book_, "K3_Z"), 0.5488116361, 1e-10);
-  EXPECT_NEAR(Number(*book_, "Kzt"), 1.4541602466, 1e-10);
+  const std::pair<const char*, double> factors[] = {
+      {"HLh", 1.0 / 3},         {"K1Mult", 0.4823333333}, {"XLh", 1.0 / 3},
+      {"K2Mult", 0.7777777778}, {"K3_Z", 0.5488116361},   {"Kzt", 1.4541602466}};
+  for (const auto& [name, value] : factors) EXPECT_NEAR(Number(*book_, name), value, 1e-10) << name;
   EXPECT_EQ(wb::ReadNamedText(*book_, "HillName"), "2-D Ridge");
 }
 
@@ -121,39 +117,28 @@ struct UnitCase {
 };
 
 TEST_F(WindFactorsTest, UnitCaptionsAndMultipliers) {
-  const UnitCase cases[] = {
-      {0, 0, 0, "(psf)", "(lbs)", "(lb-ft)", 1, 1, 1},
-      {0, 0, 1, "(psf)", "(lbs)", "(kip-ft)", 1, 1, 0.001},
-      {0, 1, 0, "(psf)", "(kips)", "(lb-ft)", 1, 0.001, 1000},
-      {0, 1, 1, "(psf)", "(kips)", "(kip-ft)", 1, 0.001, 1},
-      {1, 0, 0, "(ksf)", "(lbs)", "(lb-ft)", 0.001, 1000, 1},
-      {1, 0, 1, "(ksf)", "(lbs)", "(kip-ft)", 0.001, 1000, 0.001},
-      {1, 1, 0, "(ksf)", "(kips)", "(lb-ft)", 0.001, 1, 1000},
-      {1, 1, 1, "(ksf)", "(kips)", "(kip-ft)", 0.001, 1, 1},
-  };
+  const UnitCase cases[] = {{0, 0, 0, "(psf)", "(lbs)", "(lb-ft)", 1, 1, 1},
+                            {0, 0, 1, "(psf)", "(lbs)", "(kip-ft)", 1, 1, 0.001},
+                            {0, 1, 0, "(psf)", "(kips)", "(lb-ft)", 1, 0.001, 1000},
+                            {0, 1, 1, "(psf)", "(kips)", "(kip-ft)", 1, 0.001, 1},
+                            {1, 0, 0, "(ksf)", "(lbs)", "(lb-ft)", 0.001, 1000, 1},
+                            {1, 0, 1, "(ksf)", "(lbs)", "(kip-ft)", 0.001, 1000, 0.001},
+                            {1, 1, 0, "(ksf)", "(kips)", "(lb-ft)", 0.001, 1, 1000},
+                            {1, 1, 1, "(ksf)", "(kips)", "(kip-ft)", 0.001, 1, 1}};
   for (const auto& c : cases) {
     Set(*book_, "Pressure", c.pressure);
     Set(*book_, "Force", c.force);
     Set(*book_, "Moment", c.moment);
-    const std::string which =
-        std::to_string(c.pressure) + std::to_string(c.force) + std::to_string(c.moment);
-    EXPECT_EQ(Number(*book_, "U_Pressure"), c.uPressure) << which;
-    EXPECT_EQ(Number(*book_, "U_Force"), c.uForce) << which;
-    EXPECT_EQ(Number(*book_, "U_Moment"), c.uMoment) << which;
-    EXPECT_EQ(wb::ReadNamedText(*book_, "U_Str_Pressure"), c.pressureCaption) << which;
-    EXPECT_EQ(wb::ReadNamedText(*book_, "U_Str_Force"), c.forceCaption) << which;
-    EXPECT_EQ(wb::ReadNamedText(*book_, "U_Str_Moment"), c.momentCaption) << which;
-  }
-}
-
-TEST_F(WindFactorsTest, UnitsBlockStandsOnSheet3Rows395To398) {
-  for (const char* name :
-       {"U_Str_Pressure", "U_Str_Force", "U_Str_Moment", "U_Pressure", "U_Force", "U_Moment"}) {
-    const auto where = book_->ResolveReference(name);
-    ASSERT_TRUE(where) << name;
-    EXPECT_EQ(book_->SheetName(where->first), "Sheet3") << name;
-    EXPECT_GE(where->second.firstRow, 395) << name;
-    EXPECT_LE(where->second.firstRow, 398) << name;
+    const int which = 100 * c.pressure + 10 * c.force + c.moment;
+    EXPECT_EQ(std::tuple(Number(*book_, "U_Pressure"), Number(*book_, "U_Force"),
+                         Number(*book_, "U_Moment")),
+              std::tuple(c.uPressure, c.uForce, c.uMoment))
+        << which;
+    EXPECT_EQ(wb::ReadNamedText(*book_, "U_Str_Pressure") +
+                  wb::ReadNamedText(*book_, "U_Str_Force") +
+                  wb::ReadNamedText(*book_, "U_Str_Moment"),
+              std::string(c.pressureCaption) + c.forceCaption + c.momentCaption)
+        << which;
   }
 }
 
