@@ -56,10 +56,7 @@ TEST(HeightList, DescendingPutsTheTopRowFirst) {
             "50.01\t60\r\n40.01\t50\r\n30.01\t40\r\n25.01\t30\r\n20.01\t25\r\n15.01\t20\r\n"
             "0\t15\r\n");
   EXPECT_EQ(CountHeightRows(60, 0, ""), 7);
-}
-
-TEST(HeightList, OtherOrdersPrintNothing) {
-  EXPECT_EQ(BuildHeightText(60, 0, 2, ""), "");
+  EXPECT_EQ(BuildHeightText(60, 0, 2, ""), "") << "other orders print nothing";
 }
 
 TEST(HeightList, IntervalTableIsAscendingInSinglePrecision) {

@@ -26,8 +26,6 @@ struct Outline {
   std::vector<double> x, y;
 };
 
-const Outline kDefault = {{0, 0, 50, 50, 0}, {0, 60, 60, 0, 0}};
-
 // The nominal area of a rectangle of the given width from y = 0 to `top` between the cuts
 // of an interval: the lower cut lies 0.01 below the interval's low end.
 double Nominal(double width, double top, const report::HeightInterval& interval) {
@@ -36,29 +34,31 @@ double Nominal(double width, double top, const report::HeightInterval& interval)
   return high > low ? width * (high - low) : 0;
 }
 
-TEST(IntervalAreas, DefaultOutlineGivesItsWidthTimesEachIntervalHeight) {
-  for (int interval : {0, 1, 3, 4}) {
+// Rectangles from y = 0: the default outline by each ladder, a slender one by user intervals and
+// one above the structure height, which stops at that height.
+TEST(IntervalAreas, RectangleGivesItsWidthTimesEachIntervalHeight) {
+  const struct {
+    double width, top, height;
+    int interval;
+    const char* user;
+  } cases[] = {{50, 60, 60, 0, ""},
+               {50, 60, 60, 1, ""},
+               {50, 60, 60, 3, ""},
+               {50, 60, 60, 4, ""},
+               {10, 100, 100, 5, "15,15,15,15,15,15,10"},
+               {10, 70, 20, 0, ""}};
+  for (const auto& c : cases) {
     ScriptedPrompt prompt;
     CutRandom random(7);
-    const auto table = BuildIntervalTable(60, interval, "");
-    const auto areas = OutlineIntervalAreas(kDefault.x, kDefault.y, 60, table, prompt, random);
+    const auto table = BuildIntervalTable(c.height, c.interval, c.user);
+    const auto areas = OutlineIntervalAreas({0, c.width, c.width, 0, 0}, {0, 0, c.top, c.top, 0},
+                                            c.height, table, prompt, random);
     ASSERT_EQ(areas.size(), table.size());
     for (std::size_t i = 0; i < areas.size(); ++i)
-      EXPECT_NEAR(areas[i], Nominal(50, 60, table[i]), 50 * kNudge + 1e-3)
-          << "interval " << interval << " row " << i;
-    EXPECT_TRUE(prompt.messages.empty());
+      EXPECT_NEAR(areas[i], Nominal(c.width, c.height, table[i]), c.width * kNudge + 1e-3)
+          << "interval " << c.interval << " row " << i;
+    EXPECT_EQ(prompt.messages.empty(), c.top <= c.height);
   }
-}
-
-TEST(IntervalAreas, SlenderRectangleByFifteenFootIntervals) {
-  ScriptedPrompt prompt;
-  CutRandom random(11);
-  const auto table = BuildIntervalTable(100, 5, "15,15,15,15,15,15,10");
-  const auto areas =
-      OutlineIntervalAreas({0, 10, 10, 0, 0}, {0, 0, 100, 100, 0}, 100, table, prompt, random);
-  ASSERT_EQ(areas.size(), 7u);
-  for (std::size_t i = 0; i < areas.size(); ++i)
-    EXPECT_NEAR(areas[i], Nominal(10, 100, table[i]), 10 * kNudge + 1e-3) << i;
 }
 
 TEST(IntervalAreas, OpeningsInsideAndAcrossACutAreSubtracted) {
@@ -128,8 +128,9 @@ TEST_P(IntervalAreaChecks, WarnAndGoOnOrSetAllToZero) {
   EXPECT_EQ(titles, c.titles);
   ASSERT_FALSE(prompt.messages.empty());
   EXPECT_EQ(prompt.messages.back().text, c.lastText);
-  if (c.titles.back() != "Warning")
+  if (c.titles.back() != "Warning") {
     EXPECT_TRUE(std::all_of(areas.begin(), areas.end(), [](float a) { return a == 0; }));
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -173,16 +174,6 @@ INSTANTIATE_TEST_SUITE_P(
                     "Broken boundaries are not allowed.\r\nLine path must be continuous & vbCrLf "
                     "& vbCrLfInterval areas will be set to 0.0 sq. ft."}),
     [](const testing::TestParamInfo<RefusalCase>& info) { return info.param.name; });
-
-TEST(IntervalAreas, OutlineAboveTheHeightStopsAtTheHeight) {
-  ScriptedPrompt prompt;
-  CutRandom random(9);
-  const auto table = BuildIntervalTable(20, 0, "");
-  const auto areas =
-      OutlineIntervalAreas({0, 10, 10, 0, 0}, {0, 0, 70, 70, 0}, 20, table, prompt, random);
-  ASSERT_EQ(areas.size(), 2u);
-  EXPECT_NEAR(areas[1], 10 * 5, 10 * kNudge + 1e-3);
-}
 
 TEST(IntervalAreas, ClosingPointEqualToSevenDigits) {
   ScriptedPrompt prompt;
