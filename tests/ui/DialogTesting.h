@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QVariant>
 
+#include "TestApplication.h"
 #include "core/Application.h"
 #include "core/ApplicationView.h"
 #include "core/ProcessState.h"
@@ -16,10 +17,7 @@
 namespace gustline::testing {
 
 inline void EnsureApplication() {
-  static int argc = 1;
-  static char name[] = "dialog_tests";
-  static char* argv[] = {name, nullptr};
-  static QApplication application(argc, argv);
+  EnsureTestApplication("dialog_tests");
 }
 
 // A report generator that only counts the reports asked of it.
