@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "TempFolder.h"
 #include "core/Application.h"
 #include "core/ApplicationView.h"
 #include "core/ProcessState.h"
@@ -67,10 +67,7 @@ inline void WriteProject(const std::filesystem::path& path, double windSpeed) {
 class ProgramFolder {
  public:
   ProgramFolder()
-      : folder_(std::filesystem::temp_directory_path() /
-                ("gustline-core-" + std::to_string(++serial_) + "-" +
-                 std::to_string(reinterpret_cast<std::uintptr_t>(this)))),
-        previous_(std::filesystem::current_path()) {
+      : folder_(UniqueTempFolder("gustline-core-")), previous_(std::filesystem::current_path()) {
     std::filesystem::create_directories(folder_ / "workbooks");
     WriteProject(folder_ / "workbooks" / "WindData.gwb", 90);
     std::filesystem::current_path(folder_);
@@ -92,7 +89,6 @@ class ProgramFolder {
   Application app{state, view, prompt, settings, report};
 
  private:
-  static inline int serial_ = 0;
   std::filesystem::path folder_;
   std::filesystem::path previous_;
 };

@@ -11,6 +11,7 @@
 #include <string>
 #include <tuple>
 
+#include "TempFolder.h"
 #include "core/workbook/Workbook.h"
 
 namespace gustline::wb {
@@ -179,8 +180,7 @@ class Biff5WriterTest
     : public ::testing::TestWithParam<std::tuple<std::string, void (*)(Workbook&)>> {
  protected:
   void SetUp() override {
-    folder_ = std::filesystem::temp_directory_path() /
-              ("gustline-biff5-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
+    folder_ = gustline::testing::UniqueTempFolder("gustline-biff5-");
     std::filesystem::create_directories(folder_);
   }
   void TearDown() override { std::filesystem::remove_all(folder_); }
