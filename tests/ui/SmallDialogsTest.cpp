@@ -46,12 +46,10 @@ struct UnitsCase {
 };
 
 TEST(UnitsTest, OkWritesTheThreeIndicesAndTheUnitBlockFollows) {
-  const UnitsCase cases[] = {
-      {"Option1_1", "Option2_0", "Option3_0", {1, 0, 0}, 1000, 1},
-      {"Option1_1", "Option2_1", "Option3_1", {1, 1, 1}, 1, 1},
-      {"Option1_0", "Option2_1", "Option3_0", {0, 1, 0}, 0.001, 1000},
-      {"Option1_0", "Option2_0", "Option3_1", {0, 0, 1}, 1, 0.001},
-  };
+  const UnitsCase cases[] = {{"Option1_1", "Option2_0", "Option3_0", {1, 0, 0}, 1000, 1},
+                             {"Option1_1", "Option2_1", "Option3_1", {1, 1, 1}, 1, 1},
+                             {"Option1_0", "Option2_1", "Option3_0", {0, 1, 0}, 0.001, 1000},
+                             {"Option1_0", "Option2_0", "Option3_1", {0, 0, 1}, 1, 0.001}};
   for (const UnitsCase& c : cases) {
     DialogApp d;
     Units dialog(d.app);
@@ -249,24 +247,15 @@ TEST(TemplateTest, BrowsedFileIsTakenAndAMissingOneKeepsTheDialog) {
 TEST(NewProjectTest, RowsAndDescriptionsRunInTheChoosersOrder) {
   const std::vector<NewProjectRow>& rows = NewProjectRows();
   ASSERT_EQ(rows.size(), NewProjectPresetKeys().size());
-  const char* const listHead[] = {" Normal",
-                                  "  MWFRS Figure 6-10",
-                                  "  MWFRS Figure 6-6",
-                                  "  MWFRS Figure 6-7",
-                                  "  MWFRS Figure 6-8",
-                                  "  MWFRS Figure 6-6 Flexible",
-                                  "  MWFRS Figure 6-7 Flexible",
-                                  "  MWFRS Figure 6-8 Flexible",
-                                  "  CLADDING Figure 6-11",
-                                  "  CLADDING Figure 6-12",
-                                  "  CLADDING Figure 6-13",
-                                  "  CLADDING Figure 6-14A",
-                                  "  CLADDING Figure 6-15",
-                                  "  CLADDING Figure 6-16",
-                                  "  CLADDING Figure 6-17",
-                                  "  CLADDING Figure 6-8",
-                                  "  OBOS Figure 6-18A"};
-  for (std::size_t i = 0; i < std::size(listHead); ++i) EXPECT_EQ(rows[i].listText, listHead[i]);
+  // The first row stands one space in, the figure rows two.
+  const std::pair<std::size_t, const char*> listRows[] = {{0, " Normal"},
+                                                          {1, "  MWFRS Figure 6-10"},
+                                                          {5, "  MWFRS Figure 6-6 Flexible"},
+                                                          {8, "  CLADDING Figure 6-11"},
+                                                          {11, "  CLADDING Figure 6-14A"},
+                                                          {15, "  CLADDING Figure 6-8"},
+                                                          {16, "  OBOS Figure 6-18A"}};
+  for (const auto& [row, text] : listRows) EXPECT_EQ(rows[row].listText, text) << row;
 
   // Each description first shows up in the order of the rows.
   std::vector<std::string> firstSeen;

@@ -114,8 +114,7 @@ TEST(CheckRangeTest, RefusesSignsAndCommasAndGivesThreeLinesOutOfRange) {
       {"-1", false, "  Numeric format error  "},
       {"1,000", false, "  Numeric format error  "},
       {"", false, "  Numeric format error  "},
-      {"250", false, "      Value   : 250.00\r\r      Limit1   : 0.000\r      Limit2   : 100.000"},
-  };
+      {"250", false, "      Value   : 250.00\r\r      Limit1   : 0.000\r      Limit2   : 100.000"}};
   for (const RangeCase& c : cases) {
     SCOPED_TRACE(c.text);
     ScriptedPrompt prompt;

@@ -68,8 +68,7 @@ TEST(WindPropertiesTest, PressureScreenWarningsAndTheFallOfTheThirdStructure) {
        "Enclosed or partially enclosed buildings (Fig. 6-17)\r\nshould have a mean roof "
        "height > 60.0 ft."},
       {1, 1, 60.5, nullptr},
-      {0, 1, 500, nullptr},
-  };
+      {0, 1, 500, nullptr}};
   for (const Case& c : cases) {
     const PressureScreen screen = PressureScreenFor(c.system, c.structure, c.height);
     ASSERT_EQ(screen.warning.has_value(), c.warning != nullptr) << c.system << c.structure;
@@ -108,20 +107,18 @@ TEST(WindPropertiesTest, FigureEntriesAndHeightRules) {
 TEST(WindPropertiesDialogTest, EveryFieldCarriesItsRule) {
   DialogApp d;
   frmWindProp form(d.app);
-  const std::pair<const char*, const char*> rules[] = {
-      {"HillX", ">=1"},
-      {"HillLh", ">=1"},
-      {"HillHeight", ">=1.0"},
-      {"Text3", ">=1.0"},
-      {"Text2", ">=1.0"},
-      {"Text1", ">=1.00,<=2000.00"},
-      {"Text5", ">=0.0001,<=50.0"},
-      {"Text4", ">=0,<=100.00"},
-      {"Text6", ">=0.0,<=500.00"},
-      {"Text7", ">=0.0,<=10000"},
-      {"TextAog", ""},
-      {"TextVi", ""},
-  };
+  const std::pair<const char*, const char*> rules[] = {{"HillX", ">=1"},
+                                                       {"HillLh", ">=1"},
+                                                       {"HillHeight", ">=1.0"},
+                                                       {"Text3", ">=1.0"},
+                                                       {"Text2", ">=1.0"},
+                                                       {"Text1", ">=1.00,<=2000.00"},
+                                                       {"Text5", ">=0.0001,<=50.0"},
+                                                       {"Text4", ">=0,<=100.00"},
+                                                       {"Text6", ">=0.0,<=500.00"},
+                                                       {"Text7", ">=0.0,<=10000"},
+                                                       {"TextAog", ""},
+                                                       {"TextVi", ""}};
   for (const auto& [field, rule] : rules) EXPECT_EQ(RuleOf(form, field), rule) << field;
 }
 
