@@ -89,20 +89,6 @@ TEST(LinksTest, BracketWithTheBooksOwnNameRefersToItself) {
   EXPECT_EQ(book.CellValue(1, 1), N(8));
 }
 
-TEST(LinksTest, DeletedSheetGivesRef) {
-  Workbook book("Sheets");
-  book.AddSheet("Sheet2");
-  book.AddSheet("Sheet3");
-  book.SetActiveSheet(3);
-  book.SetCellNumber(1, 1, 5);
-  book.SetActiveSheet(1);
-  book.SetCellFormula(1, 1, "Sheet3!A1");
-  EXPECT_EQ(book.CellValue(1, 1), N(5));
-  book.DeleteSheets(3, 1);
-  EXPECT_EQ(book.CellValue(1, 1), Value::Error(ErrorCode::Ref));
-  EXPECT_EQ(book.CellFormula(1, 1), "#REF!");
-}
-
 TEST(LinksTest, BooksLinkedBothWaysSettleWithoutLooping) {
   Workbook first("First");
   Workbook second("Second");

@@ -34,10 +34,8 @@ TEST_F(NamedCellsTest, ReadNamedIntRoundsTiesToEven) {
   const struct {
     double stored;
     int read;
-  } cases[] = {
-      {2.5, 2},    {3.5, 4},  {-2.5, -2},       {-3.5, -4},         {2.4999, 2},
-      {2.5001, 3}, {-0.4, 0}, {32767.4, 32767}, {-32768.5, -32768},
-  };
+  } cases[] = {{2.5, 2},    {3.5, 4},  {-2.5, -2},       {-3.5, -4},        {2.4999, 2},
+               {2.5001, 3}, {-0.4, 0}, {32767.4, 32767}, {-32768.5, -32768}};
   for (const auto& c : cases) {
     WriteNamedNumber(book, "Exposure", c.stored);
     EXPECT_EQ(ReadNamedInt(book, "Exposure"), c.read) << c.stored;

@@ -19,31 +19,20 @@ class SelectionTest : public ::testing::Test {
   Workbook book{"WindData"};
 };
 
-TEST_F(SelectionTest, ANewBookHasOneSheetAndA1Selected) {
-  Workbook fresh;
-  EXPECT_EQ(fresh.SheetCount(), 1);
-  EXPECT_EQ(fresh.SheetName(1), "Sheet1");
-  EXPECT_EQ(fresh.Selection(), "$A$1");
-  EXPECT_EQ(fresh.ActiveRow(), 1);
-  EXPECT_EQ(fresh.ActiveCol(), 1);
-}
-
 TEST_F(SelectionTest, SelectsRangesSheetQualifiedRangesAndNames) {
   const struct {
     const char* text;
     int sheet;
     const char* selection;
-  } cases[] = {
-      {"B87", 2, "$B$87"},
-      {"c16:a1", 2, "$A$1:$C$16"},
-      {"A1:C16384", 2, "$A$1:$C$16384"},
-      {"Sheet3!A1", 3, "$A$1"},
-      {"sheet3!$b$2:$c$3", 3, "$B$2:$C$3"},
-      {"'Page 1'!A1:B2", 4, "$A$1:$B$2"},
-      {"Table66RoofType", 1, "$B$87"},
-      {"TABLE66ROOFTYPE", 1, "$B$87"},
-      {"u_str_force", 3, "$D$40:$E$41"},
-  };
+  } cases[] = {{"B87", 2, "$B$87"},
+               {"c16:a1", 2, "$A$1:$C$16"},
+               {"A1:C16384", 2, "$A$1:$C$16384"},
+               {"Sheet3!A1", 3, "$A$1"},
+               {"sheet3!$b$2:$c$3", 3, "$B$2:$C$3"},
+               {"'Page 1'!A1:B2", 4, "$A$1:$B$2"},
+               {"Table66RoofType", 1, "$B$87"},
+               {"TABLE66ROOFTYPE", 1, "$B$87"},
+               {"u_str_force", 3, "$D$40:$E$41"}};
   for (const auto& c : cases) {
     book.SetActiveSheet(2);
     book.SetSelection(c.text);
@@ -58,11 +47,11 @@ TEST_F(SelectionTest, RefusesUnknownNamesAndBadTexts) {
   const struct {
     const char* text;
     int error;
-  } cases[] = {
-      {"NoSuchName", errc::kUnknownName},  {"A1:", errc::kBadReference},
-      {"Nowhere!A1", errc::kBadReference}, {"A1:B2:C3", errc::kBadReference},
-      {"", errc::kBadReference},
-  };
+  } cases[] = {{"NoSuchName", errc::kUnknownName},
+               {"A1:", errc::kBadReference},
+               {"Nowhere!A1", errc::kBadReference},
+               {"A1:B2:C3", errc::kBadReference},
+               {"", errc::kBadReference}};
   for (const auto& c : cases) {
     book.SetSelection("C5");
     EXPECT_EQ(ErrorNumberOf([&] { book.SetSelection(c.text); }), c.error) << c.text;

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "ErrorNumber.h"
-#include "core/workbook/BookRegistry.h"
 #include "core/workbook/Workbook.h"
 
 namespace gustline::wb {
@@ -30,11 +29,11 @@ TEST(Sheets, DeleteSheetsKeepsTheActiveSheetWhereItCan) {
   const struct {
     int active, first, count, activeAfter;
     std::vector<std::string> names;
-  } cases[] = {
-      {5, 4, 1, 4, {"S1", "S2", "S3", "S5"}}, {2, 4, 1, 2, {"S1", "S2", "S3", "S5"}},
-      {4, 4, 1, 4, {"S1", "S2", "S3", "S5"}}, {5, 4, 2, 3, {"S1", "S2", "S3"}},
-      {1, 1, 2, 1, {"S3", "S4", "S5"}},
-  };
+  } cases[] = {{5, 4, 1, 4, {"S1", "S2", "S3", "S5"}},
+               {2, 4, 1, 2, {"S1", "S2", "S3", "S5"}},
+               {4, 4, 1, 4, {"S1", "S2", "S3", "S5"}},
+               {5, 4, 2, 3, {"S1", "S2", "S3"}},
+               {1, 1, 2, 1, {"S3", "S4", "S5"}}};
   for (const auto& c : cases) {
     Workbook book;
     book.SetSheetName(1, "S1");
@@ -69,6 +68,7 @@ TEST(Sheets, AFormulaOnADeletedSheetReadsRef) {
   EXPECT_EQ(book.SheetIndexById(id), -1);
   book.Recalc();
   EXPECT_EQ(book.CellValue(1, 1), Value::Error(ErrorCode::Ref));
+  EXPECT_EQ(book.CellFormula(1, 1), "#REF!+1");
 }
 
 TEST(Names, WalkInDefinitionOrderWithoutRegardToCase) {
@@ -111,17 +111,6 @@ TEST(ClearAll, LeavesOneEmptySheetAndNoNames) {
   EXPECT_EQ(book.Styles().Size(), 1u);
   EXPECT_EQ(book.BookName(), "WindData");
   EXPECT_EQ(ErrorNumberOf([&] { book.SetSelection("Height"); }), errc::kUnknownName);
-}
-
-TEST(BookRegistry, FindsOpenBooksByNameAndId) {
-  auto book = std::make_unique<Workbook>(" WindData ");
-  const auto id = book->Id();
-  EXPECT_EQ(book->BookName(), "WindData");
-  EXPECT_EQ(BookRegistry::Instance().FindByName("winddata"), book.get());
-  EXPECT_EQ(BookRegistry::Instance().FindById(id), book.get());
-  book.reset();
-  EXPECT_EQ(BookRegistry::Instance().FindById(id), nullptr);
-  EXPECT_EQ(BookRegistry::Instance().FindByName("WindData"), nullptr);
 }
 
 }  // namespace
