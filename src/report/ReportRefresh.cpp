@@ -59,7 +59,7 @@ void RefreshReportLinks(wb::Workbook& report, ApplicationView& view) {
     });
     for (const auto& [row, col] : formulaCells) {
       try {
-        report.SetCellFormula(row, col, report.CellFormula(row, col));
+        report.ReenterFormula(row, col);
       } catch (const wb::FacilityError&) {
       }
     }

@@ -32,6 +32,13 @@ class Formula;
 // Throws FacilityError(errc::kFormulaSyntax) when the text does not parse.
 std::shared_ptr<const Formula> ParseFormula(std::string_view text, const FormulaHost& host);
 
+// Binds the sheets, books and names of a parsed formula again, as reading its printed text
+// back at the host would now; the formula itself when every binding stays. Null when only
+// the text can tell: a formula without references or names (it may read back as a constant),
+// or one with a reference that prints as #REF! at this host.
+std::shared_ptr<const Formula> RebindFormula(const std::shared_ptr<const Formula>& formula,
+                                             const FormulaHost& host);
+
 // The formula's text without "=", relative references printed for the host cell.
 std::string FormulaText(const Formula& formula, const FormulaHost& host);
 

@@ -68,6 +68,50 @@ std::optional<RefCorner> ReadCellWord(std::string_view word, const CellAddress& 
   return corner;
 }
 
+// The book whose names a name is looked up among.
+Workbook* NameBook(const SheetTarget& sheet, const FormulaHost& host) {
+  switch (sheet.kind) {
+    case SheetTarget::Kind::Link:
+      return BookRegistry::Instance().FindById(sheet.bookId);
+    case SheetTarget::Kind::Unbound:
+      return nullptr;
+    default:
+      return host.book;
+  }
+}
+
+// A sheet prefix as written, bound to a sheet of the host book, to another open book, or to
+// nothing yet.
+SheetTarget BindSheet(std::string book, std::string sheet, const FormulaHost& host) {
+  SheetTarget target;
+  target.bookText = std::move(book);
+  target.sheetText = std::move(sheet);
+  Workbook* owner = host.book;
+  if (!target.bookText.empty()) {
+    const std::string_view wanted = Trim(target.bookText);
+    if (host.book == nullptr || !SameNoCase(wanted, host.book->BookName())) {
+      owner = BookRegistry::Instance().FindByName(wanted);
+      if (owner == nullptr) {
+        target.kind = SheetTarget::Kind::Unbound;
+        return target;
+      }
+    }
+  }
+  if (owner != host.book) {
+    target.kind = SheetTarget::Kind::Link;
+    target.bookId = owner->Id();
+    return target;
+  }
+  const int index = host.book ? host.book->FindSheet(target.sheetText) : 0;
+  if (index == 0) {
+    target.kind = SheetTarget::Kind::Missing;
+  } else {
+    target.kind = SheetTarget::Kind::Local;
+    target.sheetId = host.book->GetSheet(index).Id();
+  }
+  return target;
+}
+
 class Parser {
  public:
   Parser(std::string_view text, const FormulaHost& host)
@@ -328,51 +372,14 @@ class Parser {
       return Leaf(Kind::Ref, static_cast<std::int32_t>(formula_->refs.size() - 1));
     }
     NameTarget name{std::move(sheet), -1, word};
-    if (Workbook* book = NameBook(name.sheet)) name.slot = book->Names().Slot(word);
+    if (Workbook* book = NameBook(name.sheet, host_)) name.slot = book->Names().Slot(word);
     formula_->names.push_back(std::move(name));
     return Leaf(Kind::Name, static_cast<std::int32_t>(formula_->names.size() - 1));
   }
 
-  // The book whose names a name is looked up among.
-  Workbook* NameBook(const SheetTarget& sheet) const {
-    switch (sheet.kind) {
-      case SheetTarget::Kind::Link:
-        return BookRegistry::Instance().FindById(sheet.bookId);
-      case SheetTarget::Kind::Unbound:
-        return nullptr;
-      default:
-        return host_.book;
-    }
-  }
-
   SheetTarget ResolveSheet(std::string book, std::string sheet) {
-    SheetTarget target;
-    target.bookText = std::move(book);
-    target.sheetText = std::move(sheet);
-    Workbook* owner = host_.book;
-    if (!target.bookText.empty()) {
-      const std::string_view wanted = Trim(target.bookText);
-      if (host_.book == nullptr || !SameNoCase(wanted, host_.book->BookName())) {
-        owner = BookRegistry::Instance().FindByName(wanted);
-        if (owner == nullptr) {
-          target.kind = SheetTarget::Kind::Unbound;
-          formula_->unboundLink = true;
-          return target;
-        }
-      }
-    }
-    if (owner != host_.book) {
-      target.kind = SheetTarget::Kind::Link;
-      target.bookId = owner->Id();
-      return target;
-    }
-    const int index = host_.book ? host_.book->FindSheet(target.sheetText) : 0;
-    if (index == 0) {
-      target.kind = SheetTarget::Kind::Missing;
-    } else {
-      target.kind = SheetTarget::Kind::Local;
-      target.sheetId = host_.book->GetSheet(index).Id();
-    }
+    SheetTarget target = BindSheet(std::move(book), std::move(sheet), host_);
+    if (target.kind == SheetTarget::Kind::Unbound) formula_->unboundLink = true;
     return target;
   }
 
@@ -424,6 +431,78 @@ class Parser {
 
 std::shared_ptr<const Formula> ParseFormula(std::string_view text, const FormulaHost& host) {
   return Parser(text, host).Run();
+}
+
+namespace {
+
+bool OnSheet(const RefCorner& corner, const CellAddress& host) {
+  const int row = corner.rowAbs ? corner.row : host.row + corner.row;
+  const int col = corner.colAbs ? corner.col : host.col + corner.col;
+  return row >= 1 && row <= kMaxRow && col >= 1 && col <= kMaxCol;
+}
+
+bool SameBinding(const SheetTarget& a, const SheetTarget& b) {
+  return a.kind == b.kind && a.sheetId == b.sheetId && a.bookId == b.bookId &&
+         a.bookText == b.bookText && a.sheetText == b.sheetText;
+}
+
+// The sheet prefix bound again from the text that the printer writes for it: a sheet of the
+// host book under its present name, otherwise the name as written. False when that text
+// would not read back as the same book and sheet.
+bool RebindSheet(const SheetTarget& sheet, const FormulaHost& host, SheetTarget& out) {
+  if (sheet.kind == SheetTarget::Kind::Host) {
+    out = sheet;
+    return true;
+  }
+  if (sheet.bookText.find(']') != std::string::npos) return false;
+  std::string name = sheet.sheetText;
+  if (sheet.kind == SheetTarget::Kind::Local && host.book != nullptr) {
+    if (const Sheet* current = host.book->SheetById(sheet.sheetId)) name = current->Name();
+  }
+  out = BindSheet(sheet.bookText, std::move(name), host);
+  return true;
+}
+
+}  // namespace
+
+std::shared_ptr<const Formula> RebindFormula(const std::shared_ptr<const Formula>& formula,
+                                             const FormulaHost& host) {
+  const Formula& source = *formula;
+  if (source.refs.empty() && source.names.empty()) return nullptr;
+  std::shared_ptr<Formula> copy;
+  const auto target = [&]() -> Formula& {
+    if (!copy) copy = std::make_shared<Formula>(source);
+    return *copy;
+  };
+  SheetTarget bound;
+  for (std::size_t i = 0; i < source.refs.size(); ++i) {
+    const RefTarget& ref = source.refs[i];
+    const bool sheetGone =
+        ref.sheet.kind == SheetTarget::Kind::Local &&
+        (host.book == nullptr || host.book->SheetById(ref.sheet.sheetId) == nullptr);
+    if (sheetGone || !OnSheet(ref.first, host.cell) || !OnSheet(ref.last, host.cell))
+      return nullptr;
+    if (!RebindSheet(ref.sheet, host, bound)) return nullptr;
+    if (!SameBinding(bound, ref.sheet)) target().refs[i].sheet = bound;
+  }
+  for (std::size_t i = 0; i < source.names.size(); ++i) {
+    const NameTarget& name = source.names[i];
+    if (!RebindSheet(name.sheet, host, bound)) return nullptr;
+    Workbook* book = NameBook(bound, host);
+    const int slot = book != nullptr ? book->Names().Slot(name.text) : -1;
+    if (SameBinding(bound, name.sheet) && slot == name.slot) continue;
+    target().names[i].sheet = bound;
+    target().names[i].slot = slot;
+  }
+  if (!copy) return formula;
+  const auto unbound = [](const SheetTarget& sheet) {
+    return sheet.kind == SheetTarget::Kind::Unbound;
+  };
+  copy->unboundLink = std::any_of(copy->refs.begin(), copy->refs.end(),
+                                  [&](const RefTarget& ref) { return unbound(ref.sheet); }) ||
+                      std::any_of(copy->names.begin(), copy->names.end(),
+                                  [&](const NameTarget& name) { return unbound(name.sheet); });
+  return copy;
 }
 
 bool HasUnboundLink(const Formula& formula) {

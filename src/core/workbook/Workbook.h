@@ -111,6 +111,9 @@ class Workbook {
   std::string CellFormula(int row, int col);
   // Parses the text again and rebinds its links; raises FacilityError when it does not parse.
   void SetCellFormula(int row, int col, std::string_view formula);
+  // SetCellFormula(row, col, CellFormula(row, col)) in effect, without the text where the
+  // formula's sheets, links and names can be bound again directly.
+  void ReenterFormula(int row, int col);
   // The value of a cell as a Value (for tools and tests).
   Value CellValue(int row, int col);
   void SetActiveFormula(std::string_view formula);

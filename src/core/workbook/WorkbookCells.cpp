@@ -143,6 +143,17 @@ void Workbook::SetCellFormula(int row, int col, std::string_view formula) {
   NoteChange(true);
 }
 
+void Workbook::ReenterFormula(int row, int col) {
+  CheckCell(row, col);
+  Cell* cell = Active().Find(row, col);
+  const FormulaHost host = HostOf(row, col);
+  auto rebound =
+      cell != nullptr && cell->IsFormula() ? RebindFormula(cell->formula, host) : nullptr;
+  if (!rebound) return SetCellFormula(row, col, CellFormula(row, col));
+  cell->formula = std::move(rebound);
+  NoteChange(true);
+}
+
 Value Workbook::CellValue(int row, int col) {
   CheckCell(row, col);
   EnsureCalculated();
