@@ -90,14 +90,12 @@ TEST(SheetLayout, HeaderAndFooterCodes) {
   const struct {
     const char* code;
     HeaderFooterText expected;
-  } cases[] = {
-      {"&A", {"", "Page 2", ""}},
-      {"&LProject&CPage &P of &N&R&F", {"Project", "Page 2 of 5", "Figure66A"}},
-      {"Wind && Snow", {"", "Wind & Snow", ""}},
-      {"&\"Arial,Bold\"&14Design&B Loads", {"", "Design Loads", ""}},
-      {"", {"", "", ""}},
-      {"trailing &", {"", "trailing ", ""}},
-  };
+  } cases[] = {{"&A", {"", "Page 2", ""}},
+               {"&LProject&CPage &P of &N&R&F", {"Project", "Page 2 of 5", "Figure66A"}},
+               {"Wind && Snow", {"", "Wind & Snow", ""}},
+               {"&\"Arial,Bold\"&14Design&B Loads", {"", "Design Loads", ""}},
+               {"", {"", "", ""}},
+               {"trailing &", {"", "trailing ", ""}}};
   for (const auto& c : cases) EXPECT_EQ(ExpandHeaderFooter(c.code, context), c.expected) << c.code;
 }
 
