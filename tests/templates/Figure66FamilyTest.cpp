@@ -86,8 +86,7 @@ TEST(Figure66FamilyTest, DefaultProjectGivesTheCheckPressuresOfFigure66A) {
       {"(2) PTR or NTR", 8, 4, -0.9, -22.918532877747687, -10, -25.18424335235392},
       {"(3) PTR or NTR", 9, 5, -0.5, -16.992828559546762, 10, -19.258539034152996},
       {"(4) PTR or NTR", 10, 6, -0.3, -14.029976400446301, 10, -16.295686875052535},
-      {"Cp = -0.18", 11, 7, -0.18, -12.252265104986025, 10, -14.517975579592258},
-  };
+      {"Cp = -0.18", 11, 7, -0.18, -12.252265104986025, 10, -14.517975579592258}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.surface);
     const int row = qh.row + c.offset;
@@ -115,10 +114,8 @@ struct GustCase {
 };
 
 TEST(Figure66FamilyTest, ComputedGustFactorsFollowTheirTemplate) {
-  const GustCase cases[] = {
-      {"Figure66C", "GustType", 1, 0.8637780514443391},
-      {"Figure66B", "Structure", 2, 1.466562187121554},
-  };
+  const GustCase cases[] = {{"Figure66C", "GustType", 1, 0.8637780514443391},
+                            {"Figure66B", "Structure", 2, 1.466562187121554}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     auto report = Open(c.name);
@@ -141,8 +138,7 @@ TEST(Figure66FamilyTest, MinimumRuleAndOverhangDifferByTemplate) {
   const double rigid = 0.8637780514443391;
   const UnitCase cases[] = {
       {"Figure66A", -10, -10},
-      {"Figure66C", q * rigid * -0.5 - q * 0.55, q * rigid * -0.24 - rigid * 0.8},
-  };
+      {"Figure66C", q * rigid * -0.5 - q * 0.55, q * rigid * -0.24 - rigid * 0.8}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     auto report = Open(c.name);
