@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -41,34 +42,28 @@ TEST_F(FileExitTest, UnchangedProjectAsksNothingAndWritesTheSettings) {
   EXPECT_FALSE(HasFile("PROJECT1.GLN"));
 }
 
-TEST_F(FileExitTest, CancelStaysInTheProgram) {
-  program.state.modifiedFlag = true;
-  program.prompt.answers = {PromptAnswer::Cancel};
-  EXPECT_FALSE(FileExit(program.app));
-  ASSERT_EQ(program.prompt.messages.size(), 1u);
-  EXPECT_EQ(program.prompt.messages[0], kSavePrompt);
-  EXPECT_FALSE(program.view.movedOutOfView);
-  EXPECT_TRUE(program.settings.values.empty());
-  EXPECT_TRUE(program.state.modifiedFlag);
-}
-
-TEST_F(FileExitTest, YesWritesTheProjectUnderItsName) {
-  program.state.modifiedFlag = true;
-  program.prompt.answers = {PromptAnswer::Yes};
-  ASSERT_TRUE(FileExit(program.app));
-  EXPECT_EQ(program.prompt.messages, std::vector<Message>{kSavePrompt});
+// The answer to the save question of a changed project: Cancel stays with nothing written,
+// No leaves without writing the project, Yes writes it under its name.
+TEST_F(FileExitTest, SaveQuestionIsAnsweredBeforeLeaving) {
+  for (const PromptAnswer answer : {PromptAnswer::Cancel, PromptAnswer::No, PromptAnswer::Yes}) {
+    SCOPED_TRACE(static_cast<int>(answer));
+    std::filesystem::remove(program.File("PROJECT1.GLN"));
+    program.settings.values.clear();
+    program.prompt.messages.clear();
+    program.state.modifiedFlag = true;
+    program.prompt.answers = {answer};
+    const bool leaves = answer != PromptAnswer::Cancel;
+    EXPECT_EQ(FileExit(program.app), leaves);
+    EXPECT_EQ(program.prompt.messages, std::vector<Message>{kSavePrompt});
+    EXPECT_EQ(program.view.movedOutOfView, leaves);
+    EXPECT_EQ(program.settings.values.empty(), !leaves);
+    EXPECT_EQ(HasFile("PROJECT1.GLN"), answer == PromptAnswer::Yes);
+    EXPECT_TRUE(leaves || program.state.modifiedFlag) << "Cancel keeps the change";
+    program.view.movedOutOfView = false;
+  }
   wb::Workbook saved("Probe");
   saved.ReadWorkbook(program.File("PROJECT1.GLN"));
   EXPECT_EQ(saved.Title(), "Gustline");
-  EXPECT_FALSE(program.settings.values.empty());
-}
-
-TEST_F(FileExitTest, NoLeavesWithoutWriting) {
-  program.state.modifiedFlag = true;
-  program.prompt.answers = {PromptAnswer::No};
-  ASSERT_TRUE(FileExit(program.app));
-  EXPECT_FALSE(HasFile("PROJECT1.GLN"));
-  EXPECT_FALSE(program.settings.values.empty());
 }
 
 TEST_F(FileExitTest, FailedWriteIsReportedAndTheProgramStays) {
