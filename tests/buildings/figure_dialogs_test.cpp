@@ -68,15 +68,12 @@ TEST(Fig66Test, OkWritesItsCellsAndQiFollowsTheEnclosure) {
     dialog.ShowValues(v);
     dialog.Command1_Click();
     EXPECT_TRUE(d.prompt.messages.empty());
-    EXPECT_EQ(d.Number("Figure63LB"), 2.5);
-    EXPECT_EQ(d.Number("Figure63WinAng"), 30);
-    EXPECT_EQ(d.Number("Figure63LeeAng"), 15);
-    EXPECT_EQ(d.Number("Figure63Area"), 500);
-    EXPECT_EQ(d.Number("Figure63HL"), 0.75);
-    EXPECT_EQ(d.Number("HasParapet"), 1);
-    EXPECT_EQ(d.Number("ParapetElevation"), 66);
-    EXPECT_EQ(d.Number("Fig63Z"), c.fig63Z) << c.table64;
-    EXPECT_EQ(d.Number("Fig63UseQi"), c.fig63UseQi) << c.table64;
+    const std::pair<const char*, double> written[] = {
+        {"Figure63LB", 2.5},      {"Figure63WinAng", 30}, {"Figure63LeeAng", 15},
+        {"Figure63Area", 500},    {"Figure63HL", 0.75},   {"HasParapet", 1},
+        {"ParapetElevation", 66}, {"Fig63Z", c.fig63Z},   {"Fig63UseQi", double(c.fig63UseQi)}};
+    for (const auto& [name, value] : written)
+      EXPECT_EQ(d.Number(name), value) << name << ", enclosure " << c.table64;
     EXPECT_TRUE(d.state.modifiedFlag);
     EXPECT_EQ(d.report.reports, 1);
   }
