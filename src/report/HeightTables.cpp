@@ -89,12 +89,13 @@ ForcesTable FillForcesTable(wb::Workbook& report, const ForcesTableNames& names,
 
   // Shear and moment run through the rows in a chain; with automatic calculation off they
   // settle after at most one pass per row. The engine calculates in dependency order, so
-  // the passes stop as soon as one leaves the base shear and moment as they were.
+  // the passes stop as soon as one leaves the base shear and moment as they were, and are
+  // not needed at all when the engine's pass settled without iteration.
   const auto base = [&report, s, c] {
     return std::pair(report.CellValue(s + 1, c + 2), report.CellValue(s + 2, c + 2));
   };
   report.Recalc();
-  for (int pass = 1; pass <= rows; ++pass) {
+  for (int pass = 1; pass <= rows && !report.RecalcSettled(); ++pass) {
     const auto before = base();
     report.Recalc();
     if (base() == before) break;

@@ -137,5 +137,38 @@ TEST(RecalcTest, RecalcWithoutChangeLeavesTheChangeCount) {
   EXPECT_EQ(BookRegistry::Instance().ChangeCount(), count);
 }
 
+// A pass is settled when another would keep every value: the builders skip that pass.
+TEST(RecalcTest, SettledOnlyWhenNoGroupNeededIteration) {
+  struct Case {
+    const char* a1;
+    const char* b1;
+    bool iteration;
+    bool settled;
+  };
+  const Case cases[] = {
+      {"B1+1", "C1*2", false, true},
+      {"IF(C1=0,1,B1)", "IF(C1=0,A1+1,2)", false, true},  // circular on paper only
+      {"B1+1", "A1+1", false, false},
+      {"1+B1/2", "A1", true, false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.a1) + " ; " + c.b1);
+    Workbook book("Settle");
+    book.SetAutoRecalc(false);
+    book.SetIteration(c.iteration, 100, 0.001);
+    book.SetCellFormula(1, 1, c.a1);
+    book.SetCellFormula(1, 2, c.b1);
+    EXPECT_FALSE(book.RecalcSettled());
+    book.Recalc();
+    EXPECT_EQ(book.RecalcSettled(), c.settled);
+    if (!c.settled) continue;
+    const Value a1 = book.CellValue(1, 1);
+    const Value b1 = book.CellValue(1, 2);
+    book.Recalc();
+    EXPECT_EQ(book.CellValue(1, 1), a1);
+    EXPECT_EQ(book.CellValue(1, 2), b1);
+  }
+}
+
 }  // namespace
 }  // namespace gustline::wb

@@ -301,6 +301,7 @@ void RecalcState::Run(Workbook& book) {
   state.busy = true;
   if (!state.orderValid || state.orderGeneration != structureGeneration) BuildOrder(book, state);
   bool changed = false;
+  bool settled = true;
   double delta = 0;
   for (const Group& group : state.groups) {
     if (!group.cyclic) {
@@ -310,6 +311,8 @@ void RecalcState::Run(Workbook& book) {
     const std::vector<Item> members(state.items.begin() + group.begin,
                                     state.items.begin() + group.end);
     if (ReadOrder(book, members).Run(changed)) continue;
+    // A cycle that really goes round may read differently at the next pass.
+    settled = false;
     if (!book.IterationOn()) {
       changed |= MarkCycle(book, members);
       continue;
@@ -325,6 +328,7 @@ void RecalcState::Run(Workbook& book) {
   }
   state.busy = false;
   state.dirty = false;
+  state.settled = settled;
   BookRegistry& registry = BookRegistry::Instance();
   if (changed) registry.NoteChange();
   state.seenChangeCount = registry.ChangeCount();
@@ -332,6 +336,10 @@ void RecalcState::Run(Workbook& book) {
 
 void Workbook::Recalc() {
   RecalcState::Run(*this);
+}
+
+bool Workbook::RecalcSettled() const {
+  return recalc_ != nullptr && recalc_->settled;
 }
 
 void Workbook::SetAutoRecalc(bool on) {

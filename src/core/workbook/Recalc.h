@@ -34,6 +34,7 @@ class RecalcState {
   bool dirty = true;
   bool busy = false;
   bool orderValid = false;
+  bool settled = false;
   std::uint64_t seenChangeCount = 0;
   std::uint64_t orderGeneration = 0;
   std::vector<Item> items;

@@ -170,6 +170,9 @@ class Workbook {
 
   // --- Calculation ---
   void Recalc();
+  // True when the last Recalc left values that another would keep (volatile functions
+  // apart): every group of it settled in one pass, none needed iteration.
+  bool RecalcSettled() const;
   bool AutoRecalc() const { return autoRecalc_; }
   void SetAutoRecalc(bool on);
   void SetIteration(bool on, int maxIterations, double maxChange);

@@ -150,8 +150,10 @@ void Workbook::ReenterFormula(int row, int col) {
   auto rebound =
       cell != nullptr && cell->IsFormula() ? RebindFormula(cell->formula, host) : nullptr;
   if (!rebound) return SetCellFormula(row, col, CellFormula(row, col));
+  // A formula that keeps every binding reads the same cells: the order of calculation stays.
+  const bool moved = rebound != cell->formula;
   cell->formula = std::move(rebound);
-  NoteChange(true);
+  NoteChange(moved);
 }
 
 Value Workbook::CellValue(int row, int col) {
