@@ -248,13 +248,15 @@ TEST(NewProjectTest, RowsAndDescriptionsRunInTheChoosersOrder) {
   const std::vector<NewProjectRow>& rows = NewProjectRows();
   ASSERT_EQ(rows.size(), NewProjectPresetKeys().size());
   // The first row stands one space in, the figure rows two.
-  const std::pair<std::size_t, const char*> listRows[] = {{0, " Normal"},
-                                                          {1, "  MWFRS Figure 6-10"},
-                                                          {5, "  MWFRS Figure 6-6 Flexible"},
-                                                          {8, "  CLADDING Figure 6-11"},
-                                                          {11, "  CLADDING Figure 6-14A"},
-                                                          {15, "  CLADDING Figure 6-8"},
-                                                          {16, "  OBOS Figure 6-18A"}};
+  const std::pair<std::size_t, const char*> listRows[] = {
+      {0, " Normal"},
+      {1, "  MWFRS Figure 6-10"},
+      {5, "  MWFRS Figure 6-6 Flexible"},
+      {8, "  CLADDING Figure 6-11"},
+      {11, "  CLADDING Figure 6-14A"},
+      {15, "  CLADDING Figure 6-8"},
+      {16, "  OBOS Figure 6-18A"},
+  };
   for (const auto& [row, text] : listRows) EXPECT_EQ(rows[row].listText, text) << row;
 
   // Each description first shows up in the order of the rows.

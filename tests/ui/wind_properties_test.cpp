@@ -107,18 +107,20 @@ TEST(WindPropertiesTest, FigureEntriesAndHeightRules) {
 TEST(WindPropertiesDialogTest, EveryFieldCarriesItsRule) {
   DialogApp d;
   frmWindProp form(d.app);
-  const std::pair<const char*, const char*> rules[] = {{"HillX", ">=1"},
-                                                       {"HillLh", ">=1"},
-                                                       {"HillHeight", ">=1.0"},
-                                                       {"Text3", ">=1.0"},
-                                                       {"Text2", ">=1.0"},
-                                                       {"Text1", ">=1.00,<=2000.00"},
-                                                       {"Text5", ">=0.0001,<=50.0"},
-                                                       {"Text4", ">=0,<=100.00"},
-                                                       {"Text6", ">=0.0,<=500.00"},
-                                                       {"Text7", ">=0.0,<=10000"},
-                                                       {"TextAog", ""},
-                                                       {"TextVi", ""}};
+  const std::pair<const char*, const char*> rules[] = {
+      {"HillX", ">=1"},
+      {"HillLh", ">=1"},
+      {"HillHeight", ">=1.0"},
+      {"Text3", ">=1.0"},
+      {"Text2", ">=1.0"},
+      {"Text1", ">=1.00,<=2000.00"},
+      {"Text5", ">=0.0001,<=50.0"},
+      {"Text4", ">=0,<=100.00"},
+      {"Text6", ">=0.0,<=500.00"},
+      {"Text7", ">=0.0,<=10000"},
+      {"TextAog", ""},
+      {"TextVi", ""},
+  };
   for (const auto& [field, rule] : rules) EXPECT_EQ(RuleOf(form, field), rule) << field;
 }
 
