@@ -18,10 +18,14 @@
 namespace gustline {
 namespace {
 
+// A base, so that the application exists before the window among the members is made.
+struct WithApplication {
+  WithApplication() { testing::EnsureApplication(); }
+};
+
 // The window with the parts of an application around it, and a prompt the test answers.
-struct WindowFixture {
+struct WindowFixture : WithApplication {
   WindowFixture() {
-    testing::EnsureApplication();
     window.SetApplication(&app);
     window.show();
   }
