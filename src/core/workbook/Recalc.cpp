@@ -30,7 +30,9 @@ class DependencyGraph {
         if (!cell.IsFormula()) return;
         if (columns.size() <= static_cast<std::size_t>(col))
           columns.resize(static_cast<std::size_t>(col) + 1);
-        columns[static_cast<std::size_t>(col)].push_back({row, static_cast<int>(nodes.size())});
+        auto& rows = columns[static_cast<std::size_t>(col)];
+        rows.resize(static_cast<std::size_t>(row), kNoNode);
+        rows[static_cast<std::size_t>(row) - 1] = static_cast<int>(nodes.size());
         nodes.push_back({s, row, col});
       });
     }
@@ -49,10 +51,7 @@ class DependencyGraph {
   std::vector<int> edges;
 
  private:
-  struct Entry {
-    int row;
-    int node;
-  };
+  static constexpr int kNoNode = -1;
 
   void Collect(const Formula& formula, const FormulaHost& host, int depth, std::vector<int>& out) {
     for (const RefTarget& ref : formula.refs) AddArea(ref, host, out);
@@ -88,15 +87,19 @@ class DependencyGraph {
     const int lastCol = std::max(colOf(ref.first), colOf(ref.last));
     const auto& columns = byColumn_[static_cast<std::size_t>(sheet)];
     for (int col = firstCol; col <= lastCol && col < static_cast<int>(columns.size()); ++col) {
-      const auto& entries = columns[static_cast<std::size_t>(col)];
-      auto it = std::lower_bound(entries.begin(), entries.end(), firstRow,
-                                 [](const Entry& e, int row) { return e.row < row; });
-      for (; it != entries.end() && it->row <= lastRow; ++it) out.push_back(it->node);
+      const auto& rows = columns[static_cast<std::size_t>(col)];
+      const int last = std::min(lastRow, static_cast<int>(rows.size()));
+      for (int row = std::max(firstRow, 1); row <= last; ++row) {
+        const int node = rows[static_cast<std::size_t>(row) - 1];
+        if (node != kNoNode) out.push_back(node);
+      }
     }
   }
 
   Workbook& book_;
-  std::vector<std::vector<std::vector<Entry>>> byColumn_;  // sheet -> column -> rows
+  // sheet -> column -> row - 1 -> the node of the formula cell there, or kNoNode. A direct
+  // index: the formula rows of a report's tables are dense, and every cell looks up its row.
+  std::vector<std::vector<std::vector<int>>> byColumn_;
   std::unordered_map<int, std::vector<int>> nameEdges_;
 };
 
