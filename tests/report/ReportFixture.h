@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 
+#include "TempFolder.h"
 #include "core/Application.h"
 #include "core/ApplicationView.h"
 #include "core/ProcessState.h"
@@ -22,9 +22,7 @@ namespace gustline::report::testing {
 // the test, and an application around a report generator.
 class ReportFixture {
  public:
-  ReportFixture()
-      : folder_(std::filesystem::temp_directory_path() /
-                ("gustline-report-" + std::to_string(reinterpret_cast<std::uintptr_t>(this)))) {
+  ReportFixture() : folder_(gustline::testing::UniqueTempFolder("gustline-report-")) {
     std::filesystem::create_directories(folder_);
     state.applicationPath = folder_.string();
     Project().ReadWorkbook(std::string(GUSTLINE_BIN_DIR) + "/workbooks/WindData.gwb");

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "TempFolder.h"
 #include "core/ApplicationView.h"
 #include "core/workbook/Workbook.h"
 #include "report/ReportRefresh.h"
@@ -72,7 +73,7 @@ TEST(ReportRefreshTest, FormatShowsFiftyFiveRowsOrFiveBeyondTheLast) {
 }
 
 TEST(ReportRefreshTest, RefreshBindsLinksOfABookReadBeforeTheProjectOpened) {
-  const auto path = std::filesystem::temp_directory_path() / "gustline-refresh-test.gwb";
+  const auto path = gustline::testing::UniqueTempFolder("gustline-refresh-test-") += ".gwb";
   {
     wb::Workbook source("Linked");
     source.SetCellFormula(1, 1, "[WindData]Sheet1!Height*2");
@@ -92,7 +93,7 @@ TEST(ReportRefreshTest, RefreshBindsLinksOfABookReadBeforeTheProjectOpened) {
 }
 
 TEST(ReportRefreshTest, TemplateTravelsThroughItsTemporaryFile) {
-  const auto folder = std::filesystem::temp_directory_path() / "gustline-load-test";
+  const auto folder = gustline::testing::UniqueTempFolder("gustline-load-test-");
   std::filesystem::create_directories(folder);
   wb::Workbook source(" Figure610 ");
   source.SetCellText(3, 2, "Wind");

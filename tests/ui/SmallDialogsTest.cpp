@@ -11,6 +11,7 @@
 #include <fstream>
 
 #include "DialogTesting.h"
+#include "TempFolder.h"
 #include "core/FileNew.h"
 #include "ui/Headings.h"
 #include "ui/PageSetup.h"
@@ -217,7 +218,7 @@ TEST(PageSetupTest, FailedRuleKeepsTheDialogAndWritesNothing) {
 
 TEST(TemplateTest, BrowsedFileIsTakenAndAMissingOneKeepsTheDialog) {
   DialogApp d;
-  const std::filesystem::path folder = std::filesystem::temp_directory_path() / "small_dialogs";
+  const std::filesystem::path folder = gustline::testing::UniqueTempFolder("small_dialogs-");
   std::filesystem::create_directories(folder);
   const std::string chosen = (folder / "Tower.GLT").string();
   std::ofstream(chosen) << "template";
