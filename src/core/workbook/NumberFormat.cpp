@@ -308,19 +308,7 @@ std::string FormatNumber(double number, std::string_view format) {
 }
 
 std::string DisplayText(const Value& value, std::string_view format) {
-  switch (value.GetKind()) {
-    case Value::Kind::Number:
-      return FormatNumber(value.AsNumber(), format);
-    case Value::Kind::Text:
-      return value.AsText();
-    case Value::Kind::Boolean:
-      return value.AsBoolean() ? "TRUE" : "FALSE";
-    case Value::Kind::Error:
-      return std::string(ErrorText(value.AsError()));
-    case Value::Kind::Empty:
-      break;
-  }
-  return {};
+  return value.IsNumber() ? FormatNumber(value.AsNumber(), format) : PlainText(value);
 }
 
 }  // namespace gustline::wb
