@@ -66,7 +66,8 @@ MainFrm::MainFrm(QWidget* parent) : QMainWindow(parent) {
   });
   for (const auto& [key, step] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
     auto* turn = new QShortcut(QKeySequence(key), this);
-    connect(turn, &QShortcut::activated, this, [this, step] { TurnPage(step); });
+    // clang 14 cannot capture a structured binding itself, only a copy of it.
+    connect(turn, &QShortcut::activated, this, [this, step = step] { TurnPage(step); });
   }
   ApplyZoom(5);
 }
