@@ -215,7 +215,7 @@ class CheckParser {
 }  // namespace
 
 CheckFileError::CheckFileError(const std::string& path, int line, const std::string& reason)
-    : std::runtime_error(path + ":" + std::to_string(line) + ": " + reason),
+    : std::runtime_error(path + (line > 0 ? ":" + std::to_string(line) : "") + ": " + reason),
       path(path),
       line(line) {}
 

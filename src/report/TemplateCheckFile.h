@@ -65,7 +65,7 @@ struct CheckFile {
 };
 
 // A line that is not of the format, or a file that cannot be read (line 0). what() is
-// "path:line: reason".
+// "path:line: reason", or "path: reason" for the whole file.
 class CheckFileError : public std::runtime_error {
  public:
   CheckFileError(const std::string& path, int line, const std::string& reason);

@@ -47,6 +47,12 @@ TEST(TemplateCheckTest, MalformedLineIsReportedWithItsNumber) {
       EXPECT_EQ(std::string(error.what()), c.error) << c.text;
     }
   }
+  try {
+    ReadCheckFile("no/such.check");
+    ADD_FAILURE() << "a missing file was read";
+  } catch (const CheckFileError& error) {
+    EXPECT_EQ(std::string(error.what()), "no/such.check: the file cannot be read");
+  }
 }
 
 struct RunCase {
