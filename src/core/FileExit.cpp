@@ -20,7 +20,7 @@ void DeleteTemporaryBooks(Application& app) {
       TemplateContainer::A, TemplateContainer::B, TemplateContainer::F, TemplateContainer::D};
   for (TemplateContainer container : kContainers)
     for (const std::string& bookName : app.report.BookNamesOn(container))
-      DeleteIfPresent(TemporaryBookPath(app.state.applicationPath, bookName));
+      DeleteIfPresent(TemporaryBookPath(bookName));
 }
 
 bool FileExit(Application& app) {

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "core/TemporaryFolder.h"
 #include "core/TextTools.h"
 
 namespace gustline {
@@ -29,8 +30,8 @@ std::string LastPathPart(std::string_view path) {
   return std::string(separator == std::string_view::npos ? path : path.substr(separator + 1));
 }
 
-std::string TemporaryBookPath(std::string_view applicationPath, std::string_view bookName) {
-  return JoinPath(applicationPath, std::string(TrimBlanks(bookName)) + "01.vts");
+std::string TemporaryBookPath(std::string_view bookName) {
+  return JoinPath(TemporaryFolder(), std::string(TrimBlanks(bookName)) + "01.vts");
 }
 
 }  // namespace gustline

@@ -14,7 +14,7 @@ void DeleteIfPresent(const std::string& path);
 // Everything after the last path separator.
 std::string LastPathPart(std::string_view path);
 // The temporary file through which a template reaches the report: the book's trimmed
-// name and "01.vts" in the program's folder.
-std::string TemporaryBookPath(std::string_view applicationPath, std::string_view bookName);
+// name and "01.vts" in the process's own temporary folder.
+std::string TemporaryBookPath(std::string_view bookName);
 
 }  // namespace gustline

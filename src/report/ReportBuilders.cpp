@@ -43,7 +43,7 @@ void BringTemplateIn(const wb::Workbook& templateBook, const BuildContext& conte
   report.ClearAll();
   report.SetMousePointer(kHourglassPointer);
   report.SetAutoRecalc(false);
-  LoadTemplateToReport(templateBook, report, context.applicationPath);
+  LoadTemplateToReport(templateBook, report);
   report.SetAutoRecalc(false);
 }
 

@@ -1,14 +1,13 @@
 #include "report/ReportRefresh.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 #include <vector>
 
 #include "core/ApplicationView.h"
+#include "core/FileNames.h"
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
-#include "core/workbook/TextCompare.h"
 #include "core/workbook/Workbook.h"
 
 namespace gustline::report {
@@ -31,14 +30,8 @@ void HideTopography(wb::Workbook& report) {
 
 }  // namespace
 
-std::string TemporaryTemplatePath(std::string_view applicationPath, const wb::Workbook& source) {
-  const std::string fileName = std::string(wb::TrimBlanks(source.BookName())) + "01.vts";
-  return (std::filesystem::path(applicationPath) / fileName).string();
-}
-
-void LoadTemplateToReport(const wb::Workbook& source, wb::Workbook& report,
-                          std::string_view applicationPath) {
-  const std::string path = TemporaryTemplatePath(applicationPath, source);
+void LoadTemplateToReport(const wb::Workbook& source, wb::Workbook& report) {
+  const std::string path = TemporaryBookPath(source.BookName());
   // Writing does not change the book; the engine's signature asks for a mutable one.
   const_cast<wb::Workbook&>(source).WriteWorkbook(path, wb::FileType::Native);
   report.SetMousePointer(kHourglassPointer);

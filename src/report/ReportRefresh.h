@@ -17,14 +17,11 @@ namespace gustline::report {
 inline constexpr int kArrowPointer = 1;
 inline constexpr int kHourglassPointer = 11;
 
-// The temporary file a template passes through: <applicationPath>/<trimmed BookName>01.vts.
-std::string TemporaryTemplatePath(std::string_view applicationPath, const wb::Workbook& source);
-
-// Brings a template into the report through its temporary file, so that sheets, names,
-// formats, objects and links all come across. The file stays for the next build. A file
-// that cannot be written raises FacilityError, and the report is then as it was.
-void LoadTemplateToReport(const wb::Workbook& source, wb::Workbook& report,
-                          std::string_view applicationPath);
+// Brings a template into the report through its temporary file (TemporaryBookPath), so
+// that sheets, names, formats, objects and links all come across. The file stays for the
+// next build. A file that cannot be written raises FacilityError, and the report is then
+// as it was.
+void LoadTemplateToReport(const wb::Workbook& source, wb::Workbook& report);
 
 // Re-enters every formula of the report, which binds its `[WindData]` links to the open
 // project. A cell that does not take its formula back is passed over.

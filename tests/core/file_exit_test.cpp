@@ -9,6 +9,7 @@
 #include "core/FileExit.h"
 #include "core/FileNames.h"
 #include "core/StartUp.h"
+#include "core/TemporaryFolder.h"
 #include "core/workbook/FacilityError.h"
 
 namespace gustline {
@@ -84,11 +85,11 @@ TEST_F(FileExitTest, TemporaryBooksGoExceptThoseOfContainerG) {
   const std::vector<std::string> removed = {"Figure618A01.vts",   "Fig619A01.vts",
                                             "Fig619B01.vts",      "Figure61001.vts",
                                             "TableSpecial01.vts", "SimpMFWRS01.vts"};
-  for (const auto& name : removed) std::ofstream(program.File(name)) << "x";
-  std::ofstream(program.File("Figure67A01.vts")) << "x";
+  for (const auto& name : removed) std::ofstream(JoinPath(TemporaryFolder(), name)) << "x";
+  std::ofstream(TemporaryBookPath("Figure67A")) << "x";
   ASSERT_TRUE(FileExit(program.app));
-  for (const auto& name : removed) EXPECT_FALSE(HasFile(name)) << name;
-  EXPECT_TRUE(HasFile("Figure67A01.vts"));
+  for (const auto& name : removed) EXPECT_FALSE(HasFile(JoinPath(TemporaryFolder(), name))) << name;
+  EXPECT_TRUE(HasFile(TemporaryBookPath("Figure67A")));
 }
 
 TEST(FacilityErrorReport, SilentNumbersAndTheCommonBox) {

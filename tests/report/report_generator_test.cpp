@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ReportFixture.h"
+#include "core/FileNames.h"
 #include "core/workbook/FacilityError.h"
 #include "report/HeightList.h"
 
@@ -152,7 +153,7 @@ TEST_F(ReportGeneratorTest, FinishesTheReportForViewingAndPrinting) {
   EXPECT_EQ(Report().ActiveSheet(), 1);
   EXPECT_EQ(view.panels[1], " Press F1 for Help");
   EXPECT_EQ(view.panels[2], " V = 90.00 mph ");
-  EXPECT_TRUE(std::filesystem::exists(Folder() + "/Figure66A01.vts"));
+  EXPECT_TRUE(std::filesystem::exists(TemporaryBookPath("Figure66A")));
 
   Set("HasParapet", 1);
   generator.CreateReport(app);

@@ -6,6 +6,7 @@
 
 #include "TempFolder.h"
 #include "core/ApplicationView.h"
+#include "core/FileNames.h"
 #include "core/workbook/Workbook.h"
 #include "report/ReportRefresh.h"
 
@@ -92,18 +93,19 @@ TEST(ReportRefreshTest, RefreshBindsLinksOfABookReadBeforeTheProjectOpened) {
   std::filesystem::remove(path);
 }
 
-TEST(ReportRefreshTest, TemplateTravelsThroughItsTemporaryFile) {
-  const auto folder = gustline::testing::UniqueTempFolder("gustline-load-test-");
-  std::filesystem::create_directories(folder);
+TEST(ReportRefreshTest, TemplateTravelsThroughItsTemporaryFileInAPrivateFolder) {
   wb::Workbook source(" Figure610 ");
   source.SetCellText(3, 2, "Wind");
   source.SetDefinedName("Start", "Sheet1!$B$3:$C$3");
   wb::Workbook report("ServerSS");
-  LoadTemplateToReport(source, report, folder.string());
-  EXPECT_TRUE(std::filesystem::exists(folder / "Figure61001.vts"));
+  LoadTemplateToReport(source, report);
+  const std::filesystem::path path = TemporaryBookPath("Figure610");
+  EXPECT_TRUE(std::filesystem::exists(path));
+  EXPECT_EQ(path.filename(), "Figure61001.vts");
+  EXPECT_EQ(std::filesystem::status(path.parent_path()).permissions(),
+            std::filesystem::perms::owner_all);
   EXPECT_EQ(report.CellText(3, 2), "Wind");
   EXPECT_EQ(report.DefinedName("Start"), source.DefinedName("Start"));
-  std::filesystem::remove_all(folder);
 }
 
 TEST(ReportRefreshTest, PageSetupCopiesOverTheSheetsBothBooksHave) {
