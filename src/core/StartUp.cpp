@@ -14,6 +14,7 @@
 #include "core/Settings.h"
 #include "core/StartupSettings.h"
 #include "core/StatusSummary.h"
+#include "core/TemplateFolder.h"
 #include "core/TextTools.h"
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/Workbook.h"
@@ -134,7 +135,7 @@ void InitializeApplication(Application& app, const std::string& programFolder) {
 void LoadStartupSettings(Application& app, std::string_view commandLine) {
   ProcessState& state = app.state;
   wb::Workbook& project = state.ProjectWorkbook();
-  const std::string normalPath = JoinPath(state.applicationPath, kNormalTemplate);
+  const std::string normalPath = JoinPath(TemplateFolder(state.applicationPath), kNormalTemplate);
   state.activeTemplatePath = app.settings.GetSetting(settingkey::kTemplate, normalPath);
   if (!HasFile(normalPath)) project.WriteWorkbook(normalPath, wb::FileType::Native);
   if (!HasFile(state.activeTemplatePath)) state.activeTemplatePath = normalPath;
