@@ -5,13 +5,8 @@
 
 #include "CliCommand.h"
 #include "ReportWriters.h"
-#include "core/Application.h"
-#include "core/CopyBookToBuffer.h"
 #include "core/FileSaveAs.h"
-#include "core/ProcessState.h"
 #include "core/workbook/FacilityError.h"
-#include "core/workbook/TextFormat.h"
-#include "core/workbook/Workbook.h"
 
 namespace gustline::cli {
 namespace {
@@ -22,17 +17,7 @@ int Export(const ReportOutput& output, const std::string& path, wb::FileType typ
     return kExitFailed;
   }
   try {
-    if (path != "-") {
-      ExportReport(output.app, path, type);
-    } else if (type == wb::FileType::Text) {
-      wb::Workbook& buffer = output.app.state.BufferWorkbook();
-      buffer.ClearAll();
-      CopyBookToBuffer(output.app.prompt, output.report, -1, -1, buffer, 1);
-      wb::WriteText(buffer, std::cout);
-    } else {
-      std::cerr << "gustline-cli report: --xls needs a file name\n";
-      return kExitUsage;
-    }
+    ExportReport(output.app, path, type);
   } catch (const wb::FacilityError& error) {
     std::cerr << "gustline-cli report: " << error.what() << '\n';
     return kExitUsage;
@@ -50,8 +35,8 @@ int WriteXls(const ReportOutput& output, const std::string& path) {
 
 const bool txtRegistered = RegisterReportWriter(
     "--txt", "--txt FILE    the report as tab-delimited text ('-': standard output)", WriteTxt);
-const bool xlsRegistered =
-    RegisterReportWriter("--xls", "--xls FILE    the report as an Excel 5.0 workbook", WriteXls);
+const bool xlsRegistered = RegisterReportWriter(
+    "--xls", "--xls FILE    the report as an Excel 5.0 workbook ('-': standard output)", WriteXls);
 
 }  // namespace
 }  // namespace gustline::cli

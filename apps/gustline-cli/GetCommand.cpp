@@ -27,6 +27,7 @@ int RunGet(const std::vector<std::string>& args) {
   }
   try {
     const auto project = OpenProject(*options);
+    if (!project) return kExitUsage;
     std::string lines;
     for (const std::string& name : options->rest)
       lines += name + '\t' + wb::PlainText(NamedValue(*project, name)) + '\n';
@@ -39,7 +40,9 @@ int RunGet(const std::vector<std::string>& args) {
 }
 
 const bool registered = RegisterCommand(
-    "get", "get [--project FILE] [--set NAME=VALUE]... NAME...   print NAME<TAB>VALUE", RunGet);
+    "get",
+    "get [--project FILE] [--set NAME=VALUE]... [--unchecked] NAME...   print NAME<TAB>VALUE",
+    RunGet);
 
 }  // namespace
 }  // namespace gustline::cli

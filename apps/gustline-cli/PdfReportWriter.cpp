@@ -27,10 +27,6 @@ int WritePdf(const ReportOutput& output, const std::string& path) {
     std::cerr << "gustline-cli report: no report created, no PDF written\n";
     return kExitFailed;
   }
-  if (path == "-") {
-    std::cerr << "gustline-cli report: --pdf needs a file name\n";
-    return kExitUsage;
-  }
   const auto application = GuiApplicationIfNone();
   try {
     report::WriteReportPdf(output.report, path);
@@ -41,8 +37,8 @@ int WritePdf(const ReportOutput& output, const std::string& path) {
   return kExitOk;
 }
 
-const bool registered =
-    RegisterReportWriter("--pdf", "--pdf FILE    the report's pages as they print", WritePdf);
+const bool registered = RegisterReportWriter(
+    "--pdf", "--pdf FILE    the report's pages as they print ('-': standard output)", WritePdf);
 
 }  // namespace
 }  // namespace gustline::cli

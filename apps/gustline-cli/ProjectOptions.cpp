@@ -1,29 +1,25 @@
 #include "ProjectOptions.h"
 
-#include <charconv>
 #include <filesystem>
 #include <iostream>
 
+#include "core/Prompt.h"
+#include "core/StartUp.h"
 #include "core/workbook/NamedCells.h"
+#include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
+#include "ui/rules/CellRules.h"
 
 namespace gustline::cli {
-namespace {
-
-std::optional<double> ReadNumber(const std::string& text) {
-  double number = 0;
-  const char* end = text.data() + text.size();
-  auto [ptr, ec] = std::from_chars(text.data(), end, number);
-  if (ec != std::errc() || ptr != end || text.empty()) return std::nullopt;
-  return number;
-}
-
-}  // namespace
 
 std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>& args) {
   ProjectOptions options;
   for (std::size_t i = 0; i < args.size(); ++i) {
     const std::string& arg = args[i];
+    if (arg == "--unchecked") {
+      options.unchecked = true;
+      continue;
+    }
     if (arg == "--project" || arg == "--set") {
       if (i + 1 >= args.size()) {
         std::cerr << "gustline-cli: " << arg << " needs a value\n";
@@ -53,16 +49,23 @@ std::string ProgramFolder() {
   return error ? std::string(".") : exe.parent_path().string();
 }
 
+bool ApplySets(wb::Workbook& project, const ProjectOptions& options) {
+  StderrPrompt prompt;
+  for (const auto& [name, value] : options.sets) {
+    if (!options.unchecked && !rules::CheckCellInput(prompt, name, value)) return false;
+    if (const auto number = wb::ReadNumber(value))
+      wb::WriteNamedNumber(project, name, *number);
+    else
+      wb::WriteNamedText(project, name, value);
+  }
+  project.Recalc();
+  return true;
+}
+
 std::unique_ptr<wb::Workbook> OpenProject(const ProjectOptions& options) {
   auto project = std::make_unique<wb::Workbook>("WindData");
-  project->ReadWorkbook(options.projectPath.value_or(ProgramFolder() + "/workbooks/WindData.gwb"));
-  for (const auto& [name, value] : options.sets) {
-    if (const auto number = ReadNumber(value))
-      wb::WriteNamedNumber(*project, name, *number);
-    else
-      wb::WriteNamedText(*project, name, value);
-  }
-  project->Recalc();
+  project->ReadWorkbook(options.projectPath.value_or(CarriedProjectPath(ProgramFolder())));
+  if (!ApplySets(*project, options)) return nullptr;
   return project;
 }
 

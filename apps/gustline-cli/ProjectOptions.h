@@ -12,23 +12,32 @@ class Workbook;
 
 namespace gustline::cli {
 
-// The options that the project commands share: --project FILE and --set NAME=VALUE.
+// The options that the project commands share: --project FILE, --set NAME=VALUE and
+// --unchecked.
 struct ProjectOptions {
   std::optional<std::string> projectPath;                 // the default project when absent
   std::vector<std::pair<std::string, std::string>> sets;  // in the order given
-  std::vector<std::string> rest;                          // the arguments left over
+  bool unchecked = false;         // --set values skip the field rules of the dialogs
+  std::vector<std::string> rest;  // the arguments left over
 };
 
-// Takes --project and --set out of the arguments; nullopt (with a message on standard
-// error) when one of them lacks its value.
+// Takes --project, --set and --unchecked out of the arguments; nullopt (with a message on
+// standard error) when one of them lacks its value.
 std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>& args);
 
 // The folder of the running program.
 std::string ProgramFolder();
 
+// Writes each --set into the project, a number (as wb::ReadNumber reads it) through
+// WriteNamedNumber and any other text through WriteNamedText, and recalculates. Unless
+// --unchecked, a value is first tested against the rule of the dialog field that writes
+// the cell, as its OK does: a refused value shows the dialog's message on standard error,
+// and the result is false with nothing more written.
+bool ApplySets(wb::Workbook& project, const ProjectOptions& options);
+
 // The project workbook `WindData`, read from the file or from the default project that the
-// program carries, with each --set written (a number through WriteNamedNumber, any other
-// text through WriteNamedText) and recalculated. Facility errors propagate.
+// program carries, with the --set values applied; nullptr when one is refused. Facility
+// errors propagate.
 std::unique_ptr<wb::Workbook> OpenProject(const ProjectOptions& options);
 
 }  // namespace gustline::cli

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <string>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "CliCommand.h"
@@ -22,23 +23,19 @@
 #include "core/workbook/Workbook.h"
 #include "report/ReportGenerator.h"
 #include "report/ReportJson.h"
+#include "report/ReportSelection.h"
 
 namespace gustline::cli {
 namespace {
 
 int WriteJson(const ReportOutput& output, const std::string& path) {
-  const std::string json = report::ReportJson(output.report, output.templateName);
-  if (path == "-") {
-    std::cout << json;
-  } else {
-    try {
-      wb::AtomicFile file(path);
-      file.Stream() << json;
-      file.Commit();
-    } catch (const wb::FacilityError& error) {
-      std::cerr << "gustline-cli report: " << error.what() << '\n';
-      return kExitUsage;
-    }
+  try {
+    wb::AtomicFile file(path);
+    file.Stream() << report::ReportJson(output.report, output.templateName);
+    file.Commit();
+  } catch (const wb::FacilityError& error) {
+    std::cerr << "gustline-cli report: " << error.what() << '\n';
+    return kExitUsage;
   }
   return output.Created() ? kExitOk : kExitFailed;
 }
@@ -47,17 +44,26 @@ const bool jsonRegistered = RegisterReportWriter(
     "--json", "--json FILE   the report's cells as JSON ('-': standard output)", WriteJson);
 
 // The project as OpenProject gives it, read into the program's own `WindData`, so that the
-// report's links find it; with the late names that every start defines.
-void ReadProject(wb::Workbook& project, const ProjectOptions& options) {
+// report's links find it; with the late names that every start defines. False when a --set
+// value is refused.
+bool ReadProject(wb::Workbook& project, const ProjectOptions& options) {
   project.ReadWorkbook(options.projectPath.value_or(CarriedProjectPath(ProgramFolder())));
   RecreateLateNames(project);
-  for (const auto& [name, value] : options.sets) {
-    if (const auto number = wb::ReadNumber(value))
-      wb::WriteNamedNumber(project, name, *number);
-    else
-      wb::WriteNamedText(project, name, value);
-  }
-  project.Recalc();
+  return ApplySets(project, options);
+}
+
+// Why the generator left the report empty, in the words of the decision tables; the
+// messages the build itself gave are already on standard error.
+std::string NoReportReason(wb::Workbook& project) {
+  const report::SelectionInputs in = report::ReadSelectionInputs(project);
+  const report::Selection selection = report::SelectTemplate(in);
+  if (std::holds_alternative<report::RangeRefusal>(selection))
+    return "the project failed the range check above";
+  if (const auto* chosen = std::get_if<report::ChosenTemplate>(&selection))
+    return "the template " + chosen->id.name + " could not be built";
+  return "no template fits System=" + std::to_string(in.system) +
+         " Structure=" + std::to_string(in.structure) + " Figure=" + std::to_string(in.figure) +
+         " Table=" + std::to_string(in.table) + " GustType=" + std::to_string(in.gustType);
 }
 
 void PrintWriterUsages() {
@@ -89,7 +95,7 @@ int RunReport(const std::vector<std::string>& args) {
   Application app{state, view, prompt, settings, generator};
   state.applicationPath = ProgramFolder();
   try {
-    ReadProject(state.ProjectWorkbook(), *options);
+    if (!ReadProject(state.ProjectWorkbook(), *options)) return kExitUsage;
   } catch (const wb::FacilityError& error) {
     std::cerr << "gustline-cli report: " << error.what() << '\n';
     return kExitUsage;
@@ -97,18 +103,21 @@ int RunReport(const std::vector<std::string>& args) {
   generator.CreateReport(app);
 
   const ReportOutput output{app, state.ReportWorkbook(), generator.TemplateName()};
-  if (writers.empty())
-    std::cout << (output.Created() ? output.templateName : "no report created") << '\n';
+  if (!output.Created())
+    std::cerr << "gustline-cli report: no report created: "
+              << NoReportReason(state.ProjectWorkbook()) << '\n';
+  else if (writers.empty())
+    std::cout << output.templateName << '\n';
   int status = output.Created() ? kExitOk : kExitFailed;
   for (const auto& [write, path] : writers) status = std::max(status, write(output, path));
   return status;
 }
 
-const bool registered = RegisterCommand(
-    "report",
-    "report [--project FILE] [--set NAME=VALUE]... [--json FILE] [--OPTION FILE]...   build "
-    "the report and write it",
-    RunReport);
+const bool registered = RegisterCommand("report",
+                                        "report [--project FILE] [--set NAME=VALUE]... "
+                                        "[--unchecked] [--json FILE] [--OPTION FILE]...   build "
+                                        "the report and write it",
+                                        RunReport);
 
 }  // namespace
 }  // namespace gustline::cli

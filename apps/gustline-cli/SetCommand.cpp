@@ -11,7 +11,8 @@
 namespace gustline::cli {
 namespace {
 
-constexpr const char* kUsage = "set FILE NAME=VALUE... [-o OUT]   write cells and save the project";
+constexpr const char* kUsage =
+    "set FILE NAME=VALUE... [--unchecked] [-o OUT]   write cells and save the project";
 
 int RunSet(const std::vector<std::string>& args) {
   ProjectOptions options;
@@ -24,6 +25,10 @@ int RunSet(const std::vector<std::string>& args) {
         return kExitUsage;
       }
       outPath = args[++i];
+      continue;
+    }
+    if (arg == "--unchecked") {
+      options.unchecked = true;
       continue;
     }
     if (!options.projectPath) {
@@ -43,6 +48,7 @@ int RunSet(const std::vector<std::string>& args) {
   }
   try {
     const auto project = OpenProject(options);
+    if (!project) return kExitUsage;
     project->WriteWorkbook(outPath.empty() ? *options.projectPath : outPath, wb::FileType::Native);
   } catch (const wb::FacilityError& error) {
     std::cerr << "gustline-cli set: " << error.what() << '\n';

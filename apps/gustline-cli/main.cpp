@@ -1,5 +1,7 @@
 // gustline-cli: the program's core without a window. Every message box is printed to
 // standard error as "[Title] text".
+#include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <map>
 #include <string>
@@ -42,5 +44,13 @@ int main(int argc, char** argv) {
     std::cerr << "gustline-cli: unknown command '" << args[0] << "'\n";
     return kExitUsage;
   }
-  return found->second.run(std::vector<std::string>(args.begin() + 1, args.end()));
+  const int status = found->second.run(std::vector<std::string>(args.begin() + 1, args.end()));
+  // What went to standard output counts only if it arrived: a full disk or a closed pipe
+  // is a failure, not a success with half a result.
+  std::cout.flush();
+  if (!std::cout || std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    std::cerr << "gustline-cli: cannot write the standard output\n";
+    return std::max(status, kExitFailed);
+  }
+  return status;
 }
