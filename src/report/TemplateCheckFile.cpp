@@ -182,7 +182,7 @@ class CheckParser {
     if (words.size() < 2) Fail("a case needs a name");
     std::string name = words[1];
     for (std::size_t i = 2; i < words.size(); ++i) name += " " + words[i];
-    file_.cases.push_back(CheckCase{lineNo_, std::move(name), {}});
+    file_.cases.push_back(CheckCase{std::move(name), {}});
   }
 
   void Step(CheckStep::Action action) {

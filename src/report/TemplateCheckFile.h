@@ -54,7 +54,6 @@ struct CheckStep {
 };
 
 struct CheckCase {
-  int line = 0;
   std::string name;
   std::vector<CheckStep> steps;
 };
