@@ -10,4 +10,8 @@ namespace gustline::wb {
 // character, and a byte that is no valid UTF-8, becomes '?'.
 std::string ToCodePage1252(std::string_view utf8);
 
+// A text in code page 1252, as projects of old keep it, in UTF-8; a byte that the code page
+// leaves undefined becomes U+FFFD.
+std::string FromCodePage1252(std::string_view bytes);
+
 }  // namespace gustline::wb
