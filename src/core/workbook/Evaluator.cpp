@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "BookRegistry.h"
+#include "NameValueCache.h"
 #include "Workbook.h"
 
 namespace gustline::wb {
@@ -259,9 +260,12 @@ Operand Evaluator::EvalName(const NameTarget& name) {
   const DefinedNames::Entry& entry = book->Names().At(name.slot);
   if (!entry.defined || entry.formula == nullptr) return ErrorOperand(ErrorCode::Name);
   if (nameDepth_ >= kMaxNameDepth) return ErrorOperand(ErrorCode::Ref);
+  if (auto known = KnownNameValue(book->Id(), name.slot, nameDepth_)) return *std::move(known);
   const FormulaHost definitionHost{book, 0, CellAddress{1, 1}};
   Evaluator inner(*entry.formula, definitionHost, nameDepth_ + 1);
-  return inner.Eval(entry.formula->root);
+  Operand value = inner.Eval(entry.formula->root);
+  KeepNameValue(book->Id(), name.slot, nameDepth_, value);
+  return value;
 }
 
 Operand Evaluator::EvalUnary(const Formula::Node& node) {
@@ -362,6 +366,7 @@ Operand CallFunction(Evaluator& ev, const Formula::Node& node) {
 }
 
 Value Evaluate(const Formula& formula, const FormulaHost& host) {
+  const NameValueScope names;
   Evaluator evaluator(formula, host);
   Value value = evaluator.Scalar(formula.root);
   if (value.IsEmpty()) return Value::Number(0);

@@ -8,6 +8,7 @@
 #include "BookRegistry.h"
 #include "Evaluator.h"
 #include "FormulaAst.h"
+#include "NameValueCache.h"
 #include "Workbook.h"
 
 namespace gustline::wb {
@@ -68,6 +69,9 @@ class DependencyGraph {
         if (entry.defined && entry.formula) {
           Collect(*entry.formula, FormulaHost{&book_, 0, CellAddress{1, 1}}, depth + 1, found);
         }
+        // Each cell once: names that use a name twice would otherwise double the list.
+        std::sort(found.begin(), found.end());
+        found.erase(std::unique(found.begin(), found.end()), found.end());
         memo = nameEdges_.emplace(name.slot, std::move(found)).first;
       }
       out.insert(out.end(), memo->second.begin(), memo->second.end());
@@ -124,6 +128,7 @@ bool Store(Cell& cell, Value value, double& delta) {
               ? std::fabs(value.AsNumber() - cell.value.AsNumber())
               : std::numeric_limits<double>::infinity();
   cell.value = std::move(value);
+  ForgetNameValues();
   return true;
 }
 
@@ -177,6 +182,8 @@ class ReadOrder : public CellReadObserver {
   }
 
   bool Settle(bool& changed) {
+    // Names kept before the group started were read unseen by this order.
+    ForgetNameValues();
     std::vector<std::size_t> stack;
     double delta = 0;
     for (std::size_t first = 0; first < members_.size(); ++first) {
@@ -188,6 +195,8 @@ class ReadOrder : public CellReadObserver {
         Cell* cell = FormulaCellOf(book_, members_[at]);
         missing_ = kNone;
         Value value = cell ? EvaluateItem(book_, *cell, members_[at]) : Value();
+        // Names evaluated with a member not yet done would keep its old value.
+        if (missing_ != kNone) ForgetNameValues();
         if (missing_ == kNone) {
           if (cell) changed |= Store(*cell, std::move(value), delta);
           state_[at] = kDone;
@@ -221,6 +230,7 @@ bool MarkCycle(Workbook& book, const std::vector<RecalcState::Item>& items) {
     cell->value = error;
     changed = true;
   }
+  if (changed) ForgetNameValues();
   return changed;
 }
 
@@ -302,6 +312,7 @@ void RecalcState::Run(Workbook& book) {
   RecalcState& state = Of(book);
   if (state.busy) return;
   state.busy = true;
+  const NameValueScope names;
   if (!state.orderValid || state.orderGeneration != structureGeneration) BuildOrder(book, state);
   bool changed = false;
   bool settled = true;
