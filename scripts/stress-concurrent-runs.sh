@@ -11,10 +11,15 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
 
+# A report's JSON without the time of day that its date cells hold.
+untimed() { sed -E 's/"value": [0-9]{5}\.[0-9]+/"value": DATE/' "$1"; }
+
 "$cli" report --json single.json >/dev/null 2>&1 || { echo "a single report fails"; exit 1; }
+untimed single.json >single.untimed
 for ((i = 0; i < reports; i += 4)); do
   for j in 0 1 2 3; do
-    ("$cli" report --json "r$j.json" >/dev/null 2>&1 && cmp -s "r$j.json" single.json) || echo x >>"fail$j" &
+    ("$cli" report --json "r$j.json" >/dev/null 2>&1 && untimed "r$j.json" | cmp -s - single.untimed) ||
+      echo x >>"fail$j" &
   done
   wait
 done

@@ -5,9 +5,8 @@
 
 #include "core/Prompt.h"
 #include "core/StartUp.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
+#include "report/HeadlessReport.h"
 #include "ui/rules/CellRules.h"
 
 namespace gustline::cli {
@@ -53,10 +52,7 @@ bool ApplySets(wb::Workbook& project, const ProjectOptions& options) {
   StderrPrompt prompt;
   for (const auto& [name, value] : options.sets) {
     if (!options.unchecked && !rules::CheckCellInput(prompt, name, value)) return false;
-    if (const auto number = wb::ReadNumber(value))
-      wb::WriteNamedNumber(project, name, *number);
-    else
-      wb::WriteNamedText(project, name, value);
+    report::WriteProjectInput(project, name, value);
   }
   project.Recalc();
   return true;

@@ -28,8 +28,7 @@ std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>
 // The folder of the running program.
 std::string ProgramFolder();
 
-// Writes each --set into the project, a number (as wb::ReadNumber reads it) through
-// WriteNamedNumber and any other text through WriteNamedText, and recalculates. Unless
+// Writes each --set into the project as report::WriteProjectInput does, and recalculates. Unless
 // --unchecked, a value is first tested against the rule of the dialog field that writes
 // the cell, as its OK does: a refused value shows the dialog's message on standard error,
 // and the result is false with nothing more written.

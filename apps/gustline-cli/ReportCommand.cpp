@@ -10,18 +10,11 @@
 #include "CliCommand.h"
 #include "ProjectOptions.h"
 #include "ReportWriters.h"
-#include "core/Application.h"
-#include "core/ApplicationView.h"
-#include "core/ProcessState.h"
 #include "core/Prompt.h"
-#include "core/Settings.h"
-#include "core/StartUp.h"
 #include "core/workbook/AtomicFile.h"
 #include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
-#include "report/ReportGenerator.h"
+#include "report/HeadlessReport.h"
 #include "report/ReportJson.h"
 #include "report/ReportSelection.h"
 
@@ -42,15 +35,6 @@ int WriteJson(const ReportOutput& output, const std::string& path) {
 
 const bool jsonRegistered = RegisterReportWriter(
     "--json", "--json FILE   the report's cells as JSON ('-': standard output)", WriteJson);
-
-// The project as OpenProject gives it, read into the program's own `WindData`, so that the
-// report's links find it; with the late names that every start defines. False when a --set
-// value is refused.
-bool ReadProject(wb::Workbook& project, const ProjectOptions& options) {
-  project.ReadWorkbook(options.projectPath.value_or(CarriedProjectPath(ProgramFolder())));
-  RecreateLateNames(project);
-  return ApplySets(project, options);
-}
 
 // Why the generator left the report empty, in the words of the decision tables; the
 // messages the build itself gave are already on standard error.
@@ -87,25 +71,19 @@ int RunReport(const std::vector<std::string>& args) {
     writers.emplace_back(write, options->rest[i + 1]);
   }
 
-  ProcessState state;
-  NullView view;
   StderrPrompt prompt;
-  MemorySettings settings;
-  report::ReportGenerator generator;
-  Application app{state, view, prompt, settings, generator};
-  state.applicationPath = ProgramFolder();
+  report::HeadlessReport program(ProgramFolder(), prompt);
   try {
-    if (!ReadProject(state.ProjectWorkbook(), *options)) return kExitUsage;
+    program.ReadProject(options->projectPath);
+    if (!ApplySets(program.Project(), *options)) return kExitUsage;
   } catch (const wb::FacilityError& error) {
     std::cerr << "gustline-cli report: " << error.what() << '\n';
     return kExitUsage;
   }
-  generator.CreateReport(app);
-
-  const ReportOutput output{app, state.ReportWorkbook(), generator.TemplateName()};
+  const ReportOutput output{program.App(), program.Report(), program.CreateReport()};
   if (!output.Created())
-    std::cerr << "gustline-cli report: no report created: "
-              << NoReportReason(state.ProjectWorkbook()) << '\n';
+    std::cerr << "gustline-cli report: no report created: " << NoReportReason(program.Project())
+              << '\n';
   else if (writers.empty())
     std::cout << output.templateName << '\n';
   int status = output.Created() ? kExitOk : kExitFailed;

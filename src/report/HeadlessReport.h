@@ -32,6 +32,8 @@ class HeadlessReport {
 
   wb::Workbook& Project() { return state_.ProjectWorkbook(); }
   wb::Workbook& Report() { return state_.ReportWorkbook(); }
+  // The running core, for what acts on the report after it is built (exports).
+  Application& App() { return app_; }
 
  private:
   ProcessState state_;
