@@ -202,6 +202,32 @@ TEST_F(BookAssemblerTest, LayoutSurvivesTheNativeFile) {
   EXPECT_EQ(read.GetCellStyle(2, 1).font.name, "Times New Roman");
 }
 
+// A page block, placed at A1 of its sheet, sets that sheet's widths and print setup, also
+// from a block it includes at A1; placed anywhere else it is refused.
+TEST_F(BookAssemblerTest, PageBlockLaysOutItsOwnSheet) {
+  Write("book.book",
+        "book Test\nsheet Page 1\nsheet Page 2\ninclude page at Page 2!A1 with WIDE=12\n");
+  Write("page.cells",
+        "param WIDE\ncolumns A=2 C={WIDE}\npage landscape footer=\"&A\"\n"
+        "include frame at A1\ngrid A6\n| x |\n");
+  Write("frame.cells", "page margins=0.5,0.5,0.75,0.5\ngrid B1\n| Title |\n");
+  Assemble();
+  const wb::Sheet& page1 = book_.GetSheet(1);
+  const wb::Sheet& page2 = book_.GetSheet(2);
+  EXPECT_EQ(std::tuple(page2.ColumnWidth(1), page2.ColumnWidth(2), page2.ColumnWidth(3)),
+            std::tuple(2.0, wb::Sheet::kDefaultColumnWidth, 12.0));
+  EXPECT_EQ(std::tuple(page2.Print().landscape, page2.Print().footer, page2.Print().leftMargin),
+            std::tuple(true, "&A", 0.5));
+  EXPECT_EQ(page1.ColumnWidth(1), wb::Sheet::kDefaultColumnWidth);
+  EXPECT_FALSE(page1.Print().landscape);
+
+  book_.ClearAll();
+  Write("book.book", "book Test\nsheet Main\ninclude page at Main!A2 with WIDE=12\n");
+  EXPECT_NE(Fault().find("page.cells:2: error: 'columns' stands in a page block, one placed at A1 "
+                         "of its sheet"),
+            std::string::npos);
+}
+
 struct LinkCase {
   const char* formula;
   const char* expected;  // part of the fault, or empty when it builds

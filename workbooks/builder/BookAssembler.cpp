@@ -95,8 +95,8 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
   const auto needArgs = [&](std::size_t count, const char* usage) {
     if (words.size() != count) throw SourceError(line.where, std::string("usage: ") + usage);
   };
-  static const std::set<std::string> bookOnly = {"book",    "sheet",        "columns",  "page",
-                                                 "library", "default-font", "undefined"};
+  static const std::set<std::string> bookOnly = {"book", "sheet", "library", "default-font",
+                                                 "undefined"};
   if (bookOnly.contains(keyword) && !frame.isBook)
     throw SourceError(line.where, "'" + keyword + "' stands in a book file");
   if (keyword == "book") {
@@ -106,9 +106,9 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
     if (words.size() < 2) throw SourceError(line.where, "usage: sheet NAME");
     DeclareSheet(line, SheetNameText(Trimmed(line.text.substr(keyword.size()))));
   } else if (keyword == "columns") {
-    SetColumns(line, words);
+    SetColumns(line, words, frame);
   } else if (keyword == "page") {
-    SetPage(line, words);
+    SetPage(line, words, frame);
   } else if (keyword == "library") {
     AddLibrary(line, words, frame);
   } else if (keyword == "default-font") {

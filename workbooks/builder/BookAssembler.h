@@ -77,13 +77,15 @@ class BookAssembler {
   void AllowUndefined(const SourceLine& line, const std::vector<std::string>& words);
 
   // The layout directives (BookLayout.cpp).
-  void SetColumns(const SourceLine& line, std::vector<std::string> words);
+  void SetColumns(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
   void SetStyle(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
   void HideRows(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
-  void SetPage(const SourceLine& line, std::vector<std::string> words);
+  void SetPage(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
   void SetDefaultFont(const SourceLine& line, const std::vector<std::string>& words);
-  // The sheets a 'columns' or 'page' line acts on: the one it names, or all for "*".
-  std::vector<int> SheetsNamed(const SourceLine& line, std::vector<std::string>& words);
+  // The sheets a 'columns' or 'page' line acts on, with the sheet word taken out of `words`:
+  // in a book the sheet it names, or all for "*"; in a page block the block's own sheet.
+  std::vector<int> SheetsNamed(const SourceLine& line, std::vector<std::string>& words,
+                               const Frame& frame);
   void DefineNameDirective(const SourceLine& line, const Frame& frame);
   void PlaceRow(const SourceLine& line, const Frame& frame);
   void PlaceGridRow(const SourceLine& line, const Frame& frame, GridCursor& grid);

@@ -1,5 +1,5 @@
-// The layout directives of a book: column widths, cell styles, hidden rows, the print
-// setup of the sheets and the default font.
+// The layout directives of a book and its blocks: column widths, cell styles, hidden rows,
+// the print setup of the sheets and the default font.
 #include "BookAssembler.h"
 #include "PrintSetupKeys.h"
 #include "SheetWords.h"
@@ -22,22 +22,33 @@ std::pair<int, int> ReadRows(const std::string& text, const SourceLocation& wher
 
 }  // namespace
 
-std::vector<int> BookAssembler::SheetsNamed(const SourceLine& line,
-                                            std::vector<std::string>& words) {
-  if (words.size() >= 2 && words[1] == "*") {
-    std::vector<int> all;
-    for (int sheet = 1; sheet <= declaredSheets_; ++sheet) all.push_back(sheet);
-    return all;
+std::vector<int> BookAssembler::SheetsNamed(const SourceLine& line, std::vector<std::string>& words,
+                                            const Frame& frame) {
+  if (!frame.isBook) {
+    if (frame.anchorRow != 1 || frame.anchorCol != 1)
+      throw SourceError(line.where, "'" + words.front() +
+                                        "' stands in a page block, one placed at A1 of its sheet");
+    return {frame.sheet};
   }
-  JoinSheetWord(words, 1, [this](std::string_view name) { return IsSheet(name); });
   if (words.size() < 2) throw SourceError(line.where, "the line needs its sheet, or *");
-  return {SheetNumber(line.where, SheetNameText(words[1]))};
+  std::vector<int> sheets;
+  if (words[1] == "*") {
+    for (int sheet = 1; sheet <= declaredSheets_; ++sheet) sheets.push_back(sheet);
+  } else {
+    JoinSheetWord(words, 1, [this](std::string_view name) { return IsSheet(name); });
+    sheets.push_back(SheetNumber(line.where, SheetNameText(words[1])));
+  }
+  words.erase(words.begin() + 1);
+  return sheets;
 }
 
-void BookAssembler::SetColumns(const SourceLine& line, std::vector<std::string> words) {
-  const std::vector<int> sheets = SheetsNamed(line, words);
-  if (words.size() < 3) throw SourceError(line.where, "usage: columns SHEET COLUMN=WIDTH ...");
-  for (std::size_t i = 2; i < words.size(); ++i) {
+void BookAssembler::SetColumns(const SourceLine& line, std::vector<std::string> words,
+                               const Frame& frame) {
+  const std::vector<int> sheets = SheetsNamed(line, words, frame);
+  if (words.size() < 2)
+    throw SourceError(line.where, frame.isBook ? "usage: columns SHEET COLUMN=WIDTH ..."
+                                               : "usage: columns COLUMN=WIDTH ...");
+  for (std::size_t i = 1; i < words.size(); ++i) {
     const auto equals = words[i].find('=');
     const auto area = wb::ParseAreaText(words[i].substr(0, equals) + "1");
     const auto width =
@@ -80,9 +91,10 @@ void BookAssembler::HideRows(const SourceLine& line, std::vector<std::string> wo
   book_.HideRows(frame.anchorRow + first - 1, frame.anchorRow + last - 1, true);
 }
 
-void BookAssembler::SetPage(const SourceLine& line, std::vector<std::string> words) {
-  for (int sheet : SheetsNamed(line, words))
-    ApplyPrintKeys(words, 2, line.where, book_.GetSheet(sheet).Print());
+void BookAssembler::SetPage(const SourceLine& line, std::vector<std::string> words,
+                            const Frame& frame) {
+  for (int sheet : SheetsNamed(line, words, frame))
+    ApplyPrintKeys(words, 1, line.where, book_.GetSheet(sheet).Print());
 }
 
 void BookAssembler::SetDefaultFont(const SourceLine& line, const std::vector<std::string>& words) {
