@@ -1,8 +1,9 @@
 // gustline-wbbuild: turns the sources of a workbook into the native file the program carries.
 //   gustline-wbbuild BOOK-FILE OUTPUT [--link BOOK.gwb]...
-// Each linked book is open under its BookName while the sources are read, so that links such
-// as [WindData]Sheet1!Height are checked and calculated. A fault in the sources is printed as
-// "file:line: error: ..." and nothing is written.
+// Each linked book is open under its file name without extension while the sources are read,
+// so that links such as [WindData]Sheet1!Height are checked and calculated. A fault in the
+// sources is printed as "file:line: error: ..." and nothing is written.
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -28,7 +29,8 @@ int main(int argc, char** argv) {
   std::vector<std::unique_ptr<gustline::wb::Workbook>> linked;
   for (const auto& path : links) {
     try {
-      linked.push_back(std::make_unique<gustline::wb::Workbook>());
+      linked.push_back(
+          std::make_unique<gustline::wb::Workbook>(std::filesystem::path(path).stem().string()));
       linked.back()->ReadWorkbook(path);
     } catch (const gustline::wb::FacilityError& error) {
       std::cerr << "gustline-wbbuild: " << path << ": " << error.what() << '\n';

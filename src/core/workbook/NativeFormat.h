@@ -33,8 +33,9 @@ bool LooksNative(std::string_view head);
 WorkbookDocument ParseNative(std::istream& in);
 void SerializeNative(const WorkbookDocument& document, std::ostream& out);
 
-// Replaces the book by the text when it reads and every formula parses; otherwise raises
-// FacilityError(errc::kFileCorrupt) and leaves the book exactly as it was.
+// Replaces the book's content by the text when it reads and every formula parses; the book
+// keeps its own name. Otherwise raises FacilityError(errc::kFileCorrupt) and leaves the book
+// exactly as it was.
 void ReadNative(std::istream& in, Workbook& book);
 void WriteNative(Workbook& book, std::ostream& out);
 

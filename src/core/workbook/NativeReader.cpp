@@ -1,14 +1,16 @@
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <set>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "CellAddress.h"
 #include "FacilityError.h"
 #include "NativeFormat.h"
+#include "TextCompare.h"
+#include "Utf8.h"
 #include "Workbook.h"
 
 namespace gustline::wb {
@@ -16,9 +18,11 @@ namespace {
 
 constexpr std::size_t kMaxFormula = 65536;
 
+// `what` may quote the file.
 [[noreturn]] void Corrupt(std::size_t lineNumber, const std::string& what) {
   throw FacilityError(errc::kFileCorrupt, "The workbook file is damaged: line " +
-                                              std::to_string(lineNumber) + ": " + what);
+                                              std::to_string(lineNumber) + ": " +
+                                              PrintableText(what));
 }
 
 int HexDigit(char c) {
@@ -465,13 +469,6 @@ void ReadHiddenRows(const Fields& fields, SheetRecord& sheet) {
   }
 }
 
-bool SameName(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return std::toupper(static_cast<unsigned char>(x)) ==
-                  std::toupper(static_cast<unsigned char>(y));
-         });
-}
-
 // The words that open a line other than a cell's; a cell line opens with its address.
 bool IsKeyword(std::string_view word) {
   static constexpr std::string_view kKeywords[] = {
@@ -574,8 +571,7 @@ class DocumentBuilder {
       if (document_.names.size() >= kMaxNativeNames) fields.Fail("too many names");
       const std::string& name = fields.Text(fields.At(1));
       if (name.empty()) fields.Fail("an empty name");
-      for (const NameRecord& other : document_.names)
-        if (SameName(other.name, name)) fields.Fail("the name " + name + " twice");
+      if (!nameKeys_.insert(UpperAscii(name)).second) fields.Fail("the name " + name + " twice");
       document_.names.push_back({name, fields.Rest()});
     } else if (keyword == "style") {
       if (document_.styles.size() >= kMaxNativeStyles) fields.Fail("too many styles");
@@ -594,7 +590,7 @@ class DocumentBuilder {
     const std::string& name = fields.Text(fields.At(1));
     if (name.empty()) fields.Fail("a sheet without a name");
     for (const SheetRecord& other : document_.sheets)
-      if (SameName(other.name, name)) fields.Fail("the sheet " + name + " twice");
+      if (EqualNoCase(other.name, name)) fields.Fail("the sheet " + name + " twice");
     document_.sheets.emplace_back();
     sheet_ = &document_.sheets.back();
     sheet_->name = name;
@@ -639,6 +635,7 @@ class DocumentBuilder {
 
   WorkbookDocument document_;
   SheetRecord* sheet_ = nullptr;
+  std::unordered_set<std::string> nameKeys_;  // upper-cased, as the book matches names
 };
 
 }  // namespace
@@ -684,12 +681,12 @@ void ReadNative(std::istream& in, Workbook& book) {
   {
     // A book of the same name and sheets takes the content first: a formula that does not
     // parse or a name the engine refuses shows there, and the real book stays untouched.
-    Workbook scratch(document.bookName);
+    Workbook scratch(book.BookName());
     try {
       ApplyDocument(document, scratch);
     } catch (const std::exception& error) {
       throw FacilityError(errc::kFileCorrupt,
-                          std::string("The workbook file is damaged: ") + error.what());
+                          "The workbook file is damaged: " + PrintableText(error.what()));
     }
   }
   ApplyDocument(document, book);

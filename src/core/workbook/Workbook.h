@@ -162,7 +162,8 @@ class Workbook {
 
   // --- Whole book ---
   void ClearAll();  // one empty sheet, "Sheet1"; no names
-  // Replaces the whole book by the file; returns the type read. On failure the book is as it was.
+  // Replaces the whole book by the file, all but its name; returns the type read. On failure
+  // the book is as it was.
   FileType ReadWorkbook(const std::string& path);
   // Native writes the book; Text writes the active sheet's display texts. Atomic.
   void WriteWorkbook(const std::string& path, FileType type);

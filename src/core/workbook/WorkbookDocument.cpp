@@ -91,7 +91,6 @@ void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
   // Set on the empty book, so that nothing is calculated now: a book that calculates
   // automatically does so at its first read, and a manual one keeps the stored results.
   book.SetAutoRecalc(document.autoRecalc);
-  book.SetBookName(document.bookName);
   book.SetTitle(document.title);
   book.SetIteration(document.iterationOn, document.maxIterations, document.maxChange);
 

@@ -48,7 +48,7 @@ struct NameRecord {
 };
 
 struct WorkbookDocument {
-  std::string bookName;
+  std::string bookName;  // the name of the book written; a read does not apply it
   std::string title;
   bool autoRecalc = true;
   bool iterationOn = false;
@@ -63,9 +63,10 @@ struct WorkbookDocument {
 // The book's content; styles renumbered by first use in row-major order over the sheets.
 WorkbookDocument CaptureDocument(Workbook& book);
 
-// Replaces the book's content by the document. Raises FacilityError when a part does not
-// apply (a formula that does not parse, a sheet name the book refuses); the book may then be
-// half written, so the reader applies to a scratch book first.
+// Replaces the book's content by the document. The book keeps its own name: other books
+// find it by that name, whatever name the document was written under. Raises FacilityError
+// when a part does not apply (a formula that does not parse, a sheet name the book refuses);
+// the book may then be half written, so the reader applies to a scratch book first.
 void ApplyDocument(const WorkbookDocument& document, Workbook& book);
 
 }  // namespace gustline::wb

@@ -5,6 +5,7 @@
 #include "FacilityError.h"
 #include "NativeFormat.h"
 #include "TextFormat.h"
+#include "Utf8.h"
 #include "Workbook.h"
 
 namespace gustline::wb {
@@ -13,11 +14,11 @@ namespace gustline::wb {
 // corrupt, so that a wrong file given as a project never replaces it.
 FileType Workbook::ReadWorkbook(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
-  if (!in) throw FacilityError(errc::kFileOpen, "Cannot open the file " + path);
+  if (!in) throw FacilityError(errc::kFileOpen, "Cannot open the file " + PrintableText(path));
   char head[64];
   in.read(head, sizeof head);
   if (!LooksNative(std::string_view(head, static_cast<std::size_t>(in.gcount()))))
-    throw FacilityError(errc::kFileCorrupt, path + " is not a workbook file");
+    throw FacilityError(errc::kFileCorrupt, PrintableText(path) + " is not a workbook file");
   in.clear();
   in.seekg(0);
   ReadNative(in, *this);
