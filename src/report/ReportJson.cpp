@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "core/workbook/CellAddress.h"
+#include "core/workbook/CodePage1252.h"
+#include "core/workbook/Utf8.h"
 #include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
 
@@ -79,8 +81,10 @@ void AppendSheet(std::string& json, wb::Workbook& report, int sheet) {
 }  // namespace
 
 std::string JsonString(std::string_view text) {
+  // Projects of old hold their texts in code page 1252; JSON is UTF-8 only.
+  const std::string utf8 = wb::IsUtf8(text) ? std::string(text) : wb::FromCodePage1252(text);
   std::string json = "\"";
-  for (const char c : text) {
+  for (const char c : utf8) {
     switch (c) {
       case '"':
         json += "\\\"";

@@ -14,7 +14,8 @@ namespace gustline::report {
 // An empty template name writes a report that was not created. The active sheet is kept.
 std::string ReportJson(wb::Workbook& report, std::string_view templateName);
 
-// A JSON string literal, quotes included.
+// A JSON string literal, quotes included: always UTF-8, a text that is not read as code
+// page 1252, control characters escaped.
 std::string JsonString(std::string_view text);
 
 }  // namespace gustline::report
