@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "core/workbook/Utf8.h"
 #include "core/workbook/Workbook.h"
 #include "geometry/SortLines.h"
 
@@ -70,8 +71,8 @@ DxfOutline ReadDxfFile(const std::string& path) {
   if (file) text.assign(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
   if (!file.is_open() || file.bad()) {
     DxfOutline outline;
-    outline.message =
-        Message{"Error", "Unable to Read DXF File : " + path, PromptIcon::Stop, PromptButtons::Ok};
+    outline.message = Message{"Error", "Unable to Read DXF File : " + wb::PrintableText(path),
+                              PromptIcon::Stop, PromptButtons::Ok};
     return outline;
   }
   return ReadDxfText(text);

@@ -76,10 +76,16 @@ TEST(DxfReader, TokensAreNotPairedWithTheirCodes) {
 }
 
 TEST(DxfReader, UnreadableFileNamesTheFile) {
-  const auto outline = ReadDxfFile("/nonexistent/outline.dxf");
-  ASSERT_TRUE(outline.message);
-  EXPECT_EQ(outline.message->title, "Error");
-  EXPECT_EQ(outline.message->text, "Unable to Read DXF File : /nonexistent/outline.dxf");
+  const std::pair<const char*, const char*> cases[] = {
+      {"/nonexistent/outline.dxf", "/nonexistent/outline.dxf"},
+      {"/nonexistent/\x1b[2J\tout.dxf", "/nonexistent/\\x1b[2J\\tout.dxf"},
+  };
+  for (const auto& [path, shown] : cases) {
+    const auto outline = ReadDxfFile(path);
+    ASSERT_TRUE(outline.message);
+    EXPECT_EQ(outline.message->title, "Error");
+    EXPECT_EQ(outline.message->text, std::string("Unable to Read DXF File : ") + shown);
+  }
 }
 
 TEST(DxfReader, CancelledFileDialogSaysNothing) {

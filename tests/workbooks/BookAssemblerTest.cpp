@@ -109,6 +109,8 @@ TEST_F(BookAssemblerTest, FaultsNameTheirFileAndLine) {
       {"colour without hash", "style A1 fill=FF0000\n", "",
        "block.cells:1: error: 'fill' is a colour #RRGGBB"},
       {"rows upside down", "hide 9:5\n", "", "block.cells:1: error: '9:5' is not rows"},
+      {"control bytes quoted", "rows\n| B1 | x | - | number | 1\x1b[2J |\n", "",
+       "block.cells:2: error: '1\\x1b[2J' is not a number"},
   };
   for (const auto& c : cases) {
     book_.ClearAll();

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/workbook/Utf8.h"
+
 namespace gustline::books {
 
 // Where a piece of a workbook source stands, for messages of the form "file:line: ...".
@@ -21,7 +23,8 @@ struct SourceLocation {
 class SourceError : public std::runtime_error {
  public:
   SourceError(const SourceLocation& where, const std::string& message)
-      : std::runtime_error(where.Text() + ": error: " + message), where_(where) {}
+      : std::runtime_error(wb::PrintableText(where.Text() + ": error: " + message)),
+        where_(where) {}
   const SourceLocation& Where() const { return where_; }
 
  private:
