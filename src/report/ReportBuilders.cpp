@@ -1,6 +1,10 @@
 #include "report/ReportBuilders.h"
 
+#include <string>
+#include <utility>
+
 #include "core/Prompt.h"
+#include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/NumberFormat.h"
 #include "core/workbook/Workbook.h"
@@ -47,18 +51,54 @@ void BringTemplateIn(const wb::Workbook& templateBook, const BuildContext& conte
   report.SetAutoRecalc(false);
 }
 
-// The system lines of page 1 for components and cladding.
-void WriteSystemHeading(const BuildContext& context) {
-  if (wb::ReadNamedInt(context.project, "System") != 1) return;
-  wb::Workbook& report = context.report;
-  report.SetActiveSheet(1);
-  report.SetCellText(14, 2, "Components");
-  report.SetCellText(15, 2, "and Cladding");
+// The sheet and cells of a name that the builder needs; the template brought it in.
+std::pair<int, wb::Area> NamedPlace(wb::Workbook& report, const wb::Workbook& templateBook,
+                                    const char* name) {
+  const auto place = report.ResolveReference(name);
+  if (!place)
+    throw wb::FacilityError(wb::errc::kUnknownName, "The report template " +
+                                                        templateBook.BookName() + " has no name " +
+                                                        name + ", which its builder needs");
+  return *place;
 }
 
-void ClearNamedRange(wb::Workbook& report, const char* name) {
-  report.SetSelection(name);
+// Makes the name's sheet active and its cells the selection.
+void SelectNamed(wb::Workbook& report, const wb::Workbook& templateBook, const char* name) {
+  const auto [sheet, area] = NamedPlace(report, templateBook, name);
+  report.SetActiveSheet(sheet);
+  report.SetSelectionRC(area.firstRow, area.firstCol, area.lastRow, area.lastCol);
+}
+
+void ClearNamedRange(wb::Workbook& report, const wb::Workbook& templateBook, const char* name) {
+  SelectNamed(report, templateBook, name);
   report.ClearRange(kClearAll);
+}
+
+void HideNamedRows(wb::Workbook& report, const wb::Workbook& templateBook, const char* name) {
+  const auto [sheet, area] = NamedPlace(report, templateBook, name);
+  report.SetActiveSheet(sheet);
+  report.HideRows(area.firstRow, area.lastRow, true);
+}
+
+// Deletes the sheet that holds the name; returns the number it had.
+int RemoveNamedPage(wb::Workbook& report, const wb::Workbook& templateBook, const char* name) {
+  const int sheet = NamedPlace(report, templateBook, name).first;
+  report.DeleteSheets(sheet, 1);
+  return sheet;
+}
+
+void WriteNamedText(wb::Workbook& report, const wb::Workbook& templateBook, const char* name,
+                    const char* text) {
+  const auto [sheet, area] = NamedPlace(report, templateBook, name);
+  report.SetActiveSheet(sheet);
+  report.SetCellText(area.firstRow, area.firstCol, text);
+}
+
+// The system lines of page 1 for components and cladding.
+void WriteSystemHeading(const wb::Workbook& templateBook, const BuildContext& context) {
+  if (wb::ReadNamedInt(context.project, "System") != 1) return;
+  WriteNamedText(context.report, templateBook, "SystemLine1", "Components");
+  WriteNamedText(context.report, templateBook, "SystemLine2", "and Cladding");
 }
 
 bool HasParapet(const BuildContext& context, const char* name = "HasParapet") {
@@ -70,10 +110,10 @@ void ShowFirstSheet(wb::Workbook& report) {
   report.SetActiveCell(1, 1);
 }
 
-void PasteList(wb::Workbook& report, const char* target, wb::Workbook& project,
+void PasteList(const wb::Workbook& templateBook, const BuildContext& context, const char* target,
                const char* listName) {
-  report.SetSelection(target);
-  report.SetClipText(CommaListLines(wb::ReadNamedText(project, listName)));
+  SelectNamed(context.report, templateBook, target);
+  context.report.SetClipText(CommaListLines(wb::ReadNamedText(context.project, listName)));
 }
 
 void BuildTablesWithAreas(const wb::Workbook& templateBook, const BuildContext& context) {
@@ -87,7 +127,7 @@ void BuildTablesWithAreas(const wb::Workbook& templateBook, const BuildContext& 
   FillForcesTable(report, {"Start3", "TopRow3", "StartArea2"}, heights.rows, heights.text, areas,
                   heights.order);
   if (wb::ReadNamedInt(context.project, "Figure") == 1 && !HasParapet(context))
-    ClearNamedRange(report, "IncludeParapet");
+    ClearNamedRange(report, templateBook, "IncludeParapet");
 }
 
 // The open-structure builders of Figures 6-21 to 6-23 and the special case: a pressures
@@ -102,8 +142,7 @@ ForcesTable BuildTwoTables(const wb::Workbook& templateBook, const BuildContext&
   BringTemplateIn(templateBook, context);
   wb::Workbook& report = context.report;
   FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
-  if (list.listTarget != nullptr)
-    PasteList(report, list.listTarget, context.project, list.listName);
+  if (list.listTarget != nullptr) PasteList(templateBook, context, list.listTarget, list.listName);
   return FillForcesTable(report, {"Start2", "TopRow2", "StartArea"}, heights.rows, heights.text,
                          areas, heights.order);
 }
@@ -138,11 +177,12 @@ void BuildFigure617(const wb::Workbook& templateBook, const BuildContext& contex
   FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
   FillHeightTable(report, "Start1", "TopRow1", heights.rows, heights.text);
   if (wb::ReadNamedNumber(context.project, "Figure68Angle") < 10)
-    ClearNamedRange(report, "AddTable");
+    ClearNamedRange(report, templateBook, "AddTable");
   if (!HasParapet(context, "HasParapets")) {
-    report.DeleteSheets(4, 1);
-    report.SetSheetName(4, "Page 4");
-    report.SetSheetName(5, "Page 5");
+    // The pages after the parapet page take the numbers of their places.
+    for (int sheet = RemoveNamedPage(report, templateBook, "ParapetPage");
+         sheet <= report.SheetCount(); ++sheet)
+      report.SetSheetName(sheet, "Page " + std::to_string(sheet));
   }
 }
 
@@ -151,17 +191,15 @@ void BuildSimplifiedMwfrs(const wb::Workbook& templateBook, const BuildContext& 
   wb::Workbook& report = context.report;
   if (wb::ReadNamedInt(context.project, "System") == 0 &&
       wb::ReadNamedNumber(context.project, "SimplifiedAngle") <= 25)
-    for (int row = 45; row <= 59; ++row) report.SetRowHidden(row, true);
+    HideNamedRows(report, templateBook, "SteepRoofRows");
   ShowFirstSheet(report);
 }
 
 void BuildSolidSigns(const wb::Workbook& templateBook, const BuildContext& context) {
   BringTemplateIn(templateBook, context);
   wb::Workbook& report = context.report;
-  if (wb::ReadNamedNumber(context.project, "AspectRatio") < 2) {
-    report.SetActiveSheet(wb::ReadNamedInt(context.project, "GustType") == 0 ? 3 : 4);
-    report.HideRows(28, 39, true);
-  }
+  if (wb::ReadNamedNumber(context.project, "AspectRatio") < 2)
+    HideNamedRows(report, templateBook, "CaseCRows");
   ShowFirstSheet(report);
 }
 
@@ -178,16 +216,16 @@ bool RunBuilder(ReportBuilder builder, const wb::Workbook& templateBook,
       return true;
     case PlainWithHeading:
       BringTemplateIn(templateBook, context);
-      WriteSystemHeading(context);
+      WriteSystemHeading(templateBook, context);
       return true;
     case LowRise:
       BringTemplateIn(templateBook, context);
-      WriteSystemHeading(context);
-      if (!HasParapet(context)) ClearNamedRange(context.report, "IncludeParapet");
+      WriteSystemHeading(templateBook, context);
+      if (!HasParapet(context)) ClearNamedRange(context.report, templateBook, "IncludeParapet");
       return true;
     case Cladding:
       BringTemplateIn(templateBook, context);
-      if (!HasParapet(context)) context.report.DeleteSheets(4, 1);
+      if (!HasParapet(context)) RemoveNamedPage(context.report, templateBook, "ParapetPage");
       return true;
     case SimplifiedMwfrs:
       BuildSimplifiedMwfrs(templateBook, context);

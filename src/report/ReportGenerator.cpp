@@ -96,7 +96,8 @@ void ReportGenerator::BuildReport(Application& app) {
                                           return std::string(kCreatingReport);
                                         }};
       const BuildContext context{report, project, app.prompt, app.state.applicationPath, areas};
-      if (RunBuilder(chosen.builder, templateBook, context)) templateName_ = chosen.id.name;
+      if (RunBuilder(FindTemplate(chosen.id).builder, templateBook, context))
+        templateName_ = chosen.id.name;
     }
 
     TurnOnIteration(app);

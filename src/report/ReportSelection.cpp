@@ -8,7 +8,6 @@ namespace gustline::report {
 namespace {
 
 using enum TemplateContainer;
-using enum ReportBuilder;
 
 constexpr const char* kNote5RangeText =
     "Structure height \\ Structure width out of range for Note 5 to apply.  Valid range is "
@@ -17,12 +16,12 @@ constexpr const char* kRatioRangeText =
     "Structure height / Structure width must be greater than or equal to 0.25 and less than "
     "or equal to 1.0 ";
 
-ChosenTemplate Choose(std::string name, TemplateContainer container, ReportBuilder builder) {
-  return ChosenTemplate{TemplateId{std::move(name), container}, builder};
+ChosenTemplate Choose(std::string name, TemplateContainer container) {
+  return ChosenTemplate{TemplateId{std::move(name), container}};
 }
 
 Selection MainWindForce(const SelectionInputs& in) {
-  if (in.structure == 0) return Choose("Figure610", D, LowRise);
+  if (in.structure == 0) return Choose("Figure610", D);
   if (in.structure == 1) {
     struct Row {
       int figure;
@@ -38,12 +37,12 @@ Selection MainWindForce(const SelectionInputs& in) {
                                            {9, 1, "Figure67C", G}}};
     for (const Row& row : kRows)
       if (row.figure == in.figure && row.gustType == in.gustType)
-        return Choose(row.name, row.container, TablesWithAreas);
+        return Choose(row.name, row.container);
   }
   if (in.structure == 2) {
-    if (in.figure == 1) return Choose("Figure66B", D, TablesWithAreas);
-    if (in.figure == 8) return Choose("Figure68B", B, TablesWithAreas);
-    if (in.figure == 9) return Choose("Figure67B", G, TablesWithAreas);
+    if (in.figure == 1) return Choose("Figure66B", D);
+    if (in.figure == 8) return Choose("Figure68B", B);
+    if (in.figure == 9) return Choose("Figure67B", G);
   }
   return NoTemplate{};
 }
@@ -52,21 +51,21 @@ Selection ComponentsAndCladding(const SelectionInputs& in) {
   if (in.structure == 0) {
     switch (in.figure) {
       case 3:
-        return Choose("Figure611B", D, Cladding);
+        return Choose("Figure611B", D);
       case 4:
-        return Choose("Figure613", D, Cladding);
+        return Choose("Figure613", D);
       case 5:
-        return Choose("Figure614A", D, Cladding);
+        return Choose("Figure614A", D);
       case 6:
-        return Choose("Figure614B", D, Cladding);
+        return Choose("Figure614B", D);
       default:
         return NoTemplate{};
     }
   }
-  if (in.structure == 1) return Choose("Figure617", D, Figure617);
+  if (in.structure == 1) return Choose("Figure617", D);
   if (in.structure == 2) {
-    if (in.figure == 8) return Choose("Figure68B", F, PlainWithHeading);
-    return Choose("figure616A", G, PlainWithHeading);
+    if (in.figure == 8) return Choose("Figure68B", F);
+    return Choose("figure616A", G);
   }
   return NoTemplate{};
 }
@@ -105,22 +104,21 @@ Selection OpenStructures(const SelectionInputs& in) {
     case 0:
     case 1:
       if (in.roofType < 1 || in.roofType > 4) return invalidRoof;
-      return Choose((in.gustType == 0 ? "Figure618" : "Fig618") + roofLetter, container,
-                    PlainWithHeading);
+      return Choose((in.gustType == 0 ? "Figure618" : "Fig618") + roofLetter, container);
     case 2:
       if (in.roofType < 1 || in.roofType > 3) return invalidRoof;
-      return Choose("Fig619" + roofLetter, container, PlainWithHeading);
+      return Choose("Fig619" + roofLetter, container);
     case 3:
-      return Choose("Fig620", container, SolidSigns);
+      return Choose("Fig620", container);
     case 4:
-      return Choose(std::string("Figure619") + member, container, Figure621);
+      return Choose(std::string("Figure619") + member, container);
     case 5:
-      return Choose(std::string("Figure621") + member, container, Figure622);
+      return Choose(std::string("Figure621") + member, container);
     case 6:
-      return Choose(std::string("Figure622") + member, container, Figure623);
+      return Choose(std::string("Figure622") + member, container);
     case 7:
-      if (in.gustType == 1) return Choose("TableSpecialD", F, SpecialCase);
-      return Choose(in.gustType == 0 ? "TableSpecial" : "TableSpecialB", D, SpecialCase);
+      if (in.gustType == 1) return Choose("TableSpecialD", F);
+      return Choose(in.gustType == 0 ? "TableSpecial" : "TableSpecialB", D);
     default:
       return NoTemplate{};
   }
@@ -146,9 +144,7 @@ SelectionInputs ReadSelectionInputs(wb::Workbook& project) {
 }
 
 Selection SelectTemplate(const SelectionInputs& in) {
-  if (in.b124 > 0)
-    return in.system == 0 ? Choose("SimpMFWRS", F, SimplifiedMwfrs)
-                          : Choose("SimpCompAndClad", F, Plain);
+  if (in.b124 > 0) return in.system == 0 ? Choose("SimpMFWRS", F) : Choose("SimpCompAndClad", F);
   switch (in.system) {
     case 0:
       return MainWindForce(in);

@@ -13,22 +13,6 @@ class Workbook;
 
 namespace gustline::report {
 
-// The builders of the height-interval rows, one per kind of template.
-enum class ReportBuilder {
-  TablesWithAreas,  // buildings of all heights, domes and arches: three tables
-  Plain,
-  PlainWithHeading,
-  LowRise,
-  Cladding,
-  SimplifiedMwfrs,
-  SolidSigns,
-  Figure617,
-  Figure621,  // Figure 6-21, templates Figure619x
-  Figure622,  // Figure 6-22, templates Figure621x
-  Figure623,  // Figure 6-23, templates Figure622x
-  SpecialCase,
-};
-
 // What the choice of template reads from the project.
 struct SelectionInputs {
   int table = 0;
@@ -47,9 +31,9 @@ struct SelectionInputs {
 // Facility errors of the named-cell helpers propagate.
 SelectionInputs ReadSelectionInputs(wb::Workbook& project);
 
+// The template of the project; its builder is that of its catalog row.
 struct ChosenTemplate {
   TemplateId id;
-  ReportBuilder builder = ReportBuilder::Plain;
 };
 
 // A failed h/w check: its message box; the report stays as it was and nothing else runs.

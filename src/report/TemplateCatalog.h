@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ReportHook.h"
+#include "report/ReportBuilders.h"
 
 namespace gustline::wb {
 class Workbook;
@@ -26,9 +27,21 @@ std::string_view ContainerLetter(TemplateContainer container);
 // The container of a letter, in either case; nullopt for any other text.
 std::optional<TemplateContainer> ContainerFromLetter(std::string_view letter);
 
-// Every template that report selection can choose, container by container. A name may stand
-// on two containers (`Figure68B` on B and F, `Fig618A` on B and F, ...).
-const std::vector<TemplateId>& AllTemplates();
+// A row of the catalog: the template, the builder that makes the report from it, and its
+// book under workbooks/templates, empty while it is not built.
+struct TemplateEntry {
+  TemplateId id;
+  ReportBuilder builder = ReportBuilder::Plain;
+  std::string_view book;
+};
+
+// Every template that report selection can choose, container by container, as
+// workbooks/templates/catalog.txt lists them. A name may stand on two containers
+// (`Figure68B` on B and F, `Fig618A` on B and F, ...).
+const std::vector<TemplateEntry>& AllTemplates();
+// The row of a name on a container, the name matched without regard to case. Raises
+// FacilityError kTemplateMissing for a name the container does not hold.
+const TemplateEntry& FindTemplate(const TemplateId& id);
 // The template names of one container, in the order of AllTemplates.
 std::vector<std::string> TemplateNamesOn(TemplateContainer container);
 // The containers that hold a name, without regard to case.

@@ -7,10 +7,12 @@
 #include <vector>
 
 #include "ReportFixture.h"
+#include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/Value.h"
 #include "report/HeightList.h"
 #include "report/ReportSelection.h"
+#include "report/TemplateCatalog.h"
 
 namespace gustline::report {
 namespace {
@@ -28,8 +30,8 @@ wb::Value T(const char* text) {
 }
 
 // A template of `sheets` pages "Page 1", "Page 2", ..., each with its own name in A2 so that
-// a page can be told after sheets are deleted, and the system lines on page 1.
-std::unique_ptr<wb::Workbook> PagesTemplate(const std::string& name, int sheets) {
+// a page can be told after sheets are deleted, and the system lines on page 1, unnamed.
+std::unique_ptr<wb::Workbook> BarePagesTemplate(const std::string& name, int sheets) {
   auto book = std::make_unique<wb::Workbook>(name);
   book->SetSheetName(1, "Page 1");
   for (int sheet = 2; sheet <= sheets; ++sheet) book->AddSheet("Page " + std::to_string(sheet));
@@ -40,6 +42,19 @@ std::unique_ptr<wb::Workbook> PagesTemplate(const std::string& name, int sheets)
   book->SetActiveSheet(1);
   book->SetCellText(14, 2, "Main Wind-Force");
   book->SetCellText(15, 2, "Resisting System");
+  return book;
+}
+
+// As BarePagesTemplate, with the names the page builders reach: the system lines, the
+// parapet page 4, the steep roof rows 45 to 59 of page 2 and the Case C rows 28 to 39 of
+// page 3.
+std::unique_ptr<wb::Workbook> PagesTemplate(const std::string& name, int sheets) {
+  auto book = BarePagesTemplate(name, sheets);
+  book->SetDefinedName("SystemLine1", "'Page 1'!$B$14");
+  book->SetDefinedName("SystemLine2", "'Page 1'!$B$15");
+  book->SetDefinedName("ParapetPage", "'" + book->SheetName(4) + "'!$A$2");
+  book->SetDefinedName("SteepRoofRows", "'Page 2'!$A$45:$J$59");
+  book->SetDefinedName("CaseCRows", "'Page 3'!$A$28:$J$39");
   return book;
 }
 
@@ -171,7 +186,7 @@ TEST_F(ReportBuildersTest, DecisionTablePicksTemplateContainerAndBuilder) {
     const auto* chosen = std::get_if<ChosenTemplate>(&selection);
     ASSERT_NE(chosen, nullptr) << c.name;
     EXPECT_EQ(chosen->id, (TemplateId{c.name, c.container})) << c.name;
-    EXPECT_EQ(chosen->builder, c.builder) << c.name;
+    EXPECT_EQ(FindTemplate(chosen->id).builder, c.builder) << c.name;
   }
 }
 
@@ -185,7 +200,8 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
     std::vector<std::string> pages;  // the template's pages that stay, in their order
     int hiddenSheet = 0;             // 0: no rows hidden
     int firstHidden = 0, lastHidden = 0;
-    bool parapetKept = true;  // the IncludeParapet block of page 3
+    bool parapetKept = true;     // the IncludeParapet block of page 3
+    bool claddingLines = false;  // the system lines for components and cladding
   };
   const std::vector<std::string> all = {"Page 1", "Page 2", "Page 3", "Page 4", "Page 5"};
   const std::vector<std::string> noPage4 = {"Page 1", "Page 2", "Page 3", "Page 5"};
@@ -204,6 +220,16 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
        {{"System", 1}, {"Figure", 5}, {"HasParapet", 0}},
        noPage4},
       {"6-14B, parapet", "Figure614B", D, {{"System", 1}, {"Figure", 6}}, all},
+      {"6-8 cladding on F, system lines",
+       "Figure68B",
+       F,
+       {{"System", 1}, {"Structure", 2}, {"Figure", 8}},
+       all,
+       0,
+       0,
+       0,
+       true,
+       true},
       {"simplified, 25 degrees",
        "SimpMFWRS",
        F,
@@ -226,7 +252,7 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
        F,
        {{"System", 2}, {"Table", 3}, {"GustType", 1}, {"AspectRatio", 1.99}},
        all,
-       4,
+       3,
        28,
        39},
       {"signs, flexible",
@@ -234,7 +260,7 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
        B,
        {{"System", 2}, {"Table", 3}, {"GustType", 2}, {"AspectRatio", 0.5}},
        all,
-       4,
+       3,
        28,
        39},
       {"signs, B/s of 2", "Fig620", A, {{"System", 2}, {"Table", 3}, {"AspectRatio", 2}}, all},
@@ -248,8 +274,6 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
       book->SetActiveSheet(sheet);
       for (int row = 20; row <= 70; ++row) book->SetCellNumber(row, 2, row);
     }
-    // The simplified builder hides its rows on the sheet the template opens at.
-    book->SetActiveSheet(2);
     Install(*book, c.container);
     Reset();
     Build(c.in);
@@ -258,13 +282,48 @@ TEST_F(ReportBuildersTest, PageBuildersDeleteHideAndClear) {
     ASSERT_EQ(Report().SheetCount(), static_cast<int>(c.pages.size())) << c.what;
     for (int sheet = 1; sheet <= Report().SheetCount(); ++sheet)
       EXPECT_EQ(Cell(sheet, 2, 1), T(c.pages[sheet - 1].c_str())) << c.what;
-    EXPECT_EQ(Cell(1, 14, 2), T("Main Wind-Force")) << c.what;
+    EXPECT_EQ(Cell(1, 14, 2), T(c.claddingLines ? "Components" : "Main Wind-Force")) << c.what;
+    EXPECT_EQ(Cell(1, 15, 2), T(c.claddingLines ? "and Cladding" : "Resisting System")) << c.what;
     EXPECT_EQ(Cell(3, 40, 1).IsEmpty(), !c.parapetKept) << c.what;
     for (int sheet = 2; sheet <= Report().SheetCount(); ++sheet)
       for (int row = 20; row <= 70; ++row) {
         const bool hidden = sheet == c.hiddenSheet && row >= c.firstHidden && row <= c.lastHidden;
         EXPECT_EQ(Hidden(sheet, row), hidden) << c.what << ", sheet " << sheet << ", row " << row;
       }
+  }
+}
+
+// A template that lacks a name its builder reaches stops the build, naming both.
+TEST_F(ReportBuildersTest, TemplateWithoutANameItsBuilderNeedsIsRefused) {
+  struct Case {
+    const char* name;
+    TemplateContainer container;
+    Inputs in;
+    const char* missing;
+  };
+  const std::vector<Case> cases = {
+      {"Figure610", D, {{"HasParapet", 0}}, "IncludeParapet"},
+      {"figure616A", G, {{"System", 1}, {"Structure", 2}, {"Figure", 1}}, "SystemLine1"},
+      {"Figure611B", D, {{"System", 1}, {"Figure", 3}, {"HasParapet", 0}}, "ParapetPage"},
+      {"SimpMFWRS", F, {{"B124", 1}, {"SimplifiedAngle", 20}}, "SteepRoofRows"},
+      {"Fig620",
+       B,
+       {{"System", 2}, {"Table", 3}, {"GustType", 2}, {"AspectRatio", 1}},
+       "CaseCRows"},
+  };
+  for (const Case& c : cases) {
+    Install(*BarePagesTemplate(c.name, 5), c.container);
+    Reset();
+    for (const auto& [name, value] : c.in) Set(name, value);
+    try {
+      generator.BuildReport(app);
+      ADD_FAILURE() << c.name << " built without " << c.missing;
+    } catch (const wb::FacilityError& error) {
+      EXPECT_EQ(error.Number(), wb::errc::kUnknownName) << c.name;
+      EXPECT_EQ(std::string(error.what()), std::string("The report template ") + c.name +
+                                               " has no name " + c.missing +
+                                               ", which its builder needs");
+    }
   }
 }
 
@@ -293,8 +352,9 @@ TEST_F(ReportBuildersTest, Figure617RepeatsTwoTablesAndDropsTheParapetPage) {
        {"Page 1", "Page 2", "Page 3", "Page 5", "Page 6"},
        4},
   };
-  auto book = PagesTemplate("Figure617", 6);
+  auto book = BarePagesTemplate("Figure617", 6);
   book->SetSheetName(4, "Parapet");
+  book->SetDefinedName("ParapetPage", "Parapet!$A$1");
   book->SetActiveSheet(4);
   book->SetCellText(2, 1, "Parapet");
   AddPressuresTable(*book, 3, "Start", "TopRow");

@@ -70,11 +70,13 @@ std::unique_ptr<wb::Workbook> TablesTemplate(const std::string& name, bool twoTa
   return book;
 }
 
-// A template with nothing to repeat: the system lines only.
+// A template with nothing to repeat: the system lines only, named for the heading builder.
 std::unique_ptr<wb::Workbook> PlainTemplate(const std::string& name) {
   auto book = std::make_unique<wb::Workbook>(name);
   book->SetCellText(14, 2, "Main Wind-Force");
   book->SetCellText(15, 2, "Resisting System");
+  book->SetDefinedName("SystemLine1", "Sheet1!$B$14");
+  book->SetDefinedName("SystemLine2", "Sheet1!$B$15");
   return book;
 }
 
