@@ -80,6 +80,9 @@ TEST(ReportOutput, PdfHoldsTheReportAsTextInEmbeddedFontsOnePagePerSheet) {
   testing::Put(*book, 1, 1, "Gust Effect Factor");
   book->SetColumnWidth(2, 2, 4);
   testing::Put(*book, 1, 2, "123456789");  // too wide for four characters
+  book->SetColumnWidth(3, 3, 30);
+  // A date after 9999 fills its cell however wide.
+  testing::Put(*book, 1, 3, "1E+15", testing::Styled(10, false, wb::HAlign::General, "m/d/yyyy"));
   book->SetActiveSheet(1);
   const QString path = PicturePath("velocity-pressure.pdf");
   WriteReportPdf(*book, path.toStdString());
@@ -97,6 +100,7 @@ TEST(ReportOutput, PdfHoldsTheReportAsTextInEmbeddedFontsOnePagePerSheet) {
     EXPECT_TRUE(text.contains(QString::fromLatin1(expected)))
         << expected << " in " << text.toStdString();
   EXPECT_TRUE(text.contains(QStringLiteral("##")));
+  EXPECT_TRUE(text.contains(QString(20, u'#'))) << text.toStdString();
   EXPECT_FALSE(text.contains(QStringLiteral("1234")));
 }
 

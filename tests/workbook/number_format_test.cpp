@@ -91,7 +91,17 @@ INSTANTIATE_TEST_SUITE_P(Dates, FormatNumberTest,
                                            FormatCase{"h:mm AM/PM", 46349.75, "6:00 PM"},
                                            FormatCase{"hh:mm:ss", 46349.25, "06:00:00"},
                                            FormatCase{"m/d/yyyy", 60, "2/29/1900"},
+                                           FormatCase{"m/d/yyyy", 2958465.5, "12/31/9999"},
                                            FormatCase{"[Red]General", 7, "7"}));
+
+// Past 31 December 9999, or before day 0, a date is no date: the cell fills with marks.
+TEST(FormatNumber, DatesOutsideTheCalendarShowOverflowMarks) {
+  const double serials[] = {2958466, 2958465.999999999, 1e15, -1e15, 1e300, -1};
+  for (const char* format : {"m/d/yyyy", "mmmm d, yyyy", "h:mm AM/PM", "\"day \"d"}) {
+    for (const double serial : serials)
+      EXPECT_EQ(FormatNumber(serial, format), kOverflowMarks) << format << " of " << serial;
+  }
+}
 
 TEST(FormatNumber, ShowsANumberThatIsNoneAsAnError) {
   EXPECT_EQ(FormatNumber(std::numeric_limits<double>::infinity(), "0.00"), "#NUM!");

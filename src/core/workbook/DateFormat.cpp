@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "NumberFormat.h"
+
 namespace gustline::wb {
 namespace {
 
@@ -18,21 +20,26 @@ struct DateParts {
   int year, month, day, weekday, hour, minute, second;
 };
 
-// Calendar date and time of a serial date (serial 25569 is 1 January 1970).
-DateParts FromSerial(double serial) {
+// 31 December 9999, the last day that a date shows.
+constexpr double kLastDay = 2958465;
+
+// Calendar date and time of a serial date (serial 25569 is 1 January 1970); nullopt before
+// day 0 and after the last day.
+std::optional<DateParts> FromSerial(double serial) {
   const double wholeSeconds = std::round(serial * 86400.0);
+  if (serial < 0 || !(wholeSeconds < (kLastDay + 1) * 86400.0)) return std::nullopt;
   const long long days = static_cast<long long>(std::floor(wholeSeconds / 86400.0));
   const long long secondOfDay = static_cast<long long>(wholeSeconds) - days * 86400;
   // Serial 60 is the 29 February 1900 that spreadsheets count, and the days before it
   // stand one later than the calendar would put them.
   if (days == 60) {
-    return {1900,
-            2,
-            29,
-            3,
-            static_cast<int>(secondOfDay / 3600),
-            static_cast<int>(secondOfDay / 60 % 60),
-            static_cast<int>(secondOfDay % 60)};
+    return DateParts{1900,
+                     2,
+                     29,
+                     3,
+                     static_cast<int>(secondOfDay / 3600),
+                     static_cast<int>(secondOfDay / 60 % 60),
+                     static_cast<int>(secondOfDay % 60)};
   }
   const long long calendarDays = days < 60 ? days + 1 : days;
   const long long z = calendarDays - 25569 + 719468;
@@ -45,13 +52,13 @@ DateParts FromSerial(double serial) {
   const int month = static_cast<int>(mp < 10 ? mp + 3 : mp - 9);
   const int year = static_cast<int>(yoe + era * 400 + (month <= 2 ? 1 : 0));
   const int weekday = static_cast<int>(((calendarDays % 7) + 7 + 6) % 7);
-  return {year,
-          month,
-          day,
-          weekday,
-          static_cast<int>(secondOfDay / 3600),
-          static_cast<int>(secondOfDay / 60 % 60),
-          static_cast<int>(secondOfDay % 60)};
+  return DateParts{year,
+                   month,
+                   day,
+                   weekday,
+                   static_cast<int>(secondOfDay / 3600),
+                   static_cast<int>(secondOfDay / 60 % 60),
+                   static_cast<int>(secondOfDay % 60)};
 }
 
 std::string Padded(int value, std::size_t width) {
@@ -80,9 +87,11 @@ std::optional<std::string> FormatDate(double serial, std::string_view section) {
       hasCode = true;
     }
   }
-  if (!hasCode || serial < 0) return std::nullopt;
+  if (!hasCode) return std::nullopt;
+  const std::optional<DateParts> date = FromSerial(serial);
+  if (!date) return std::string(kOverflowMarks);
 
-  const DateParts parts = FromSerial(serial);
+  const DateParts& parts = *date;
   const bool twelveHour = section.find("AM/PM") != std::string_view::npos;
   std::string text;
   bool afterHour = false;

@@ -151,10 +151,12 @@ Qt::Alignment Vertical(wb::VAlign align) {
   return Qt::AlignBottom;
 }
 
-// A number that is wider than its cell shows as a row of "#", as a spreadsheet shows it,
-// rather than as digits cut off.
+// A number that is wider than its cell, or that its format cannot show, fills the cell with
+// "#", as a spreadsheet shows it, rather than as digits cut off.
 QString FittedNumber(const QString& text, const QFontMetricsF& metrics, double width) {
-  if (metrics.horizontalAdvance(text) <= width + 0.01) return text;
+  const bool overflow = text == QLatin1String(wb::kOverflowMarks.data(),
+                                              static_cast<qsizetype>(wb::kOverflowMarks.size()));
+  if (!overflow && metrics.horizontalAdvance(text) <= width + 0.01) return text;
   const double hash = metrics.horizontalAdvance(u'#');
   return QString(static_cast<qsizetype>(std::max(0.0, std::floor(width / hash))), u'#');
 }
