@@ -542,7 +542,7 @@ TEST_F(WorkbookFileTest, AFailedSaveLeavesTheOldFileAsItWas) {
   const std::string old = Contents(path);
 
   book.SetCellNumber(1, 1, 100);
-  std::filesystem::create_directory(path + ".tmp");  // the file beside cannot be made
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);  // a read-only project
   EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(path, FileType::Native); }), errc::kFileWrite);
   EXPECT_EQ(Contents(path), old);
   EXPECT_EQ(ErrorOf([&] { book.WriteWorkbook(path, FileType::Excel5); }), errc::kFileWrite);
