@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "ui/rules/FormField.h"
+
 namespace gustline::wb {
 class Workbook;
 }
@@ -10,16 +12,51 @@ namespace gustline {
 
 // The fields of the Figure 6-6 dialog as it shows them.
 struct Fig66Values {
-  std::string leewardLB;         // Text1, `Figure63LB`, "0.000"
-  std::string windwardAngle;     // Text2, `Figure63WinAng`, "0.00"
-  std::string leewardAngle;      // Text3, `Figure63LeeAng`, "0.00"
-  std::string area;              // Text4, `Figure63Area`, "0.00"
-  std::string hL;                // Text5, `Figure63HL`, "0.000"
-  bool useQz = false;            // Option1_1 rather than Option1_0 (qi = qh)
-  std::string z;                 // Text6, `Fig63Z`; a stored 0 shows `Height`
-  bool hasParapet = false;       // Check1
-  std::string parapetElevation;  // Text7
-  int table64 = 1;               // the enclosure class read at opening
+  std::string leewardLB;
+  std::string windwardAngle;
+  std::string leewardAngle;
+  std::string area;
+  std::string hL;
+  bool useQz = false;  // rather than qi = qh
+  std::string z;       // `Fig63Z`; a stored 0 shows `Height`
+  bool hasParapet = false;
+  std::string parapetElevation;
+  int table64 = 1;  // the enclosure class read at opening
+};
+
+// The controls of the form; the text boxes are checked at OK in this order. The sliders
+// Slider1 and Slider2 fill Text2 and Text3; qi and its height are stored by LoadFig66 and
+// SaveFig66 themselves.
+inline constexpr rules::FormField<Fig66Values> kFig66Fields[] = {
+    {.control = "Text4",
+     .member = &Fig66Values::area,
+     .cell = "Figure63Area",
+     .rule = ">=1,<=10000",
+     .format = "0.00"},
+    {.control = "Text2",
+     .member = &Fig66Values::windwardAngle,
+     .cell = "Figure63WinAng",
+     .rule = ">=0,<=90",
+     .format = "0.00"},
+    {.control = "Text3",
+     .member = &Fig66Values::leewardAngle,
+     .cell = "Figure63LeeAng",
+     .rule = ">=0,<=90",
+     .format = "0.00"},
+    {.control = "Text5",
+     .member = &Fig66Values::hL,
+     .cell = "Figure63HL",
+     .rule = ">=0,<=1000",
+     .format = "0.000"},
+    {.control = "Text1",
+     .member = &Fig66Values::leewardLB,
+     .cell = "Figure63LB",
+     .rule = ">=0,<=1000.0",
+     .format = "0.000"},
+    {.control = "Option1", .member = &Fig66Values::useQz},
+    {.control = "Text6", .member = &Fig66Values::z},
+    {.control = "Check1", .member = &Fig66Values::hasParapet, .cell = "HasParapet"},
+    {.control = "Text7", .member = &Fig66Values::parapetElevation, .cell = "ParapetElevation"},
 };
 
 // qi may be taken at a height z only for partially enclosed buildings.

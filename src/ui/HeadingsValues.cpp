@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/TextTools.h"
-#include "core/workbook/NamedCells.h"
+#include "ui/rules/FieldCells.h"
 #include "ui/rules/FieldNumber.h"
 
 namespace gustline {
@@ -102,25 +102,13 @@ std::string NormalizeDate(std::string_view text) {
 
 HeadingsValues LoadHeadings(wb::Workbook& project) {
   HeadingsValues v;
-  v.company = wb::ReadNamedText(project, "Company");
-  v.project = wb::ReadNamedText(project, "Project");
-  v.location = wb::ReadNamedText(project, "Location");
-  v.subject = wb::ReadNamedText(project, "Subject");
-  v.fileNo = wb::ReadNamedText(project, "FileNo");
-  v.engineer = wb::ReadNamedText(project, "Engineer");
-  const std::string date = wb::ReadNamedText(project, "Date");
-  v.date = date.empty() ? TodayShortDate() : NormalizeDate(date);
+  rules::LoadFields(project, kHeadingsFields, v);
+  v.date = v.date.empty() ? TodayShortDate() : NormalizeDate(v.date);
   return v;
 }
 
 void SaveHeadings(wb::Workbook& project, const HeadingsValues& v) {
-  wb::WriteNamedText(project, "Company", v.company);
-  wb::WriteNamedText(project, "Project", v.project);
-  wb::WriteNamedText(project, "Location", v.location);
-  wb::WriteNamedText(project, "Subject", v.subject);
-  wb::WriteNamedText(project, "FileNo", v.fileNo);
-  wb::WriteNamedText(project, "Engineer", v.engineer);
-  wb::WriteNamedText(project, "Date", v.date);
+  rules::SaveFields(project, kHeadingsFields, v);
 }
 
 Message ZeroLengthHeadingMessage() {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/Prompt.h"
+#include "ui/rules/FormField.h"
 
 namespace gustline::wb {
 class Workbook;
@@ -14,13 +15,24 @@ namespace gustline {
 
 // The heading lines of every report page, as the Page Headings dialog shows them.
 struct HeadingsValues {
-  std::string company;   // Text1_0, `Company`
-  std::string project;   // Text1_1, `Project`
-  std::string location;  // Text1_2, `Location`
-  std::string subject;   // Text1_3, `Subject`
-  std::string fileNo;    // Text1_4, `FileNo`
-  std::string engineer;  // Text1_5, `Engineer`
-  std::string date;      // Text2, `Date`
+  std::string company;
+  std::string project;
+  std::string location;
+  std::string subject;
+  std::string fileNo;
+  std::string engineer;
+  std::string date;
+};
+
+// The control array Text1 holds the heading lines, Text2 the date; all are texts.
+inline constexpr rules::FormField<HeadingsValues> kHeadingsFields[] = {
+    {.control = "Text1_0", .member = &HeadingsValues::company, .cell = "Company", .format = "@"},
+    {.control = "Text1_1", .member = &HeadingsValues::project, .cell = "Project", .format = "@"},
+    {.control = "Text1_2", .member = &HeadingsValues::location, .cell = "Location", .format = "@"},
+    {.control = "Text1_3", .member = &HeadingsValues::subject, .cell = "Subject", .format = "@"},
+    {.control = "Text1_4", .member = &HeadingsValues::fileNo, .cell = "FileNo", .format = "@"},
+    {.control = "Text1_5", .member = &HeadingsValues::engineer, .cell = "Engineer", .format = "@"},
+    {.control = "Text2", .member = &HeadingsValues::date, .cell = "Date", .format = "@"},
 };
 
 // Reads the seven cells. `Date` holds =NOW() until the dialog first writes it, so its

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/workbook/SheetSetup.h"
+#include "ui/rules/FormField.h"
 
 namespace gustline::wb {
 class Workbook;
@@ -12,20 +13,39 @@ namespace gustline {
 
 // The fields of the Page Setup dialog as it shows them.
 struct PageSetupValues {
-  std::string header;             // Text1
-  std::string footer;             // Text2
-  std::string topMargin;          // Text3, inches
-  std::string bottomMargin;       // Text4
-  std::string leftMargin;         // Text5
-  std::string rightMargin;        // Text6
-  bool fitToPages = true;         // Option1_1 rather than Option1_0 (a scale in per cent)
-  std::string scale;              // Text9, per cent
-  std::string pagesWide;          // Text7
-  std::string pagesTall;          // Text8, 0 for as many as the sheet needs
-  bool centerHorizontal = false;  // Check1_0
-  bool centerVertical = false;    // Check1_1
-  bool gridLines = false;         // Check1_2
-  bool blackAndWhite = false;     // Check1_3
+  std::string header;
+  std::string footer;
+  std::string topMargin;  // inches
+  std::string bottomMargin;
+  std::string leftMargin;
+  std::string rightMargin;
+  bool fitToPages = true;  // rather than a scale in per cent
+  std::string scale;       // per cent
+  std::string pagesWide;
+  std::string pagesTall;  // 0 for as many as the sheet needs
+  bool centerHorizontal = false;
+  bool centerVertical = false;
+  bool gridLines = false;
+  bool blackAndWhite = false;
+};
+
+// The controls of the form, which go to the report's page setup rather than to cells; the
+// text boxes are checked at OK in this order.
+inline constexpr rules::FormField<PageSetupValues> kPageSetupFields[] = {
+    {.control = "Text9", .member = &PageSetupValues::scale, .rule = ">=10,<=400"},
+    {.control = "Text8", .member = &PageSetupValues::pagesTall, .rule = ">=0,<=10"},
+    {.control = "Text7", .member = &PageSetupValues::pagesWide, .rule = ">=1,<=100"},
+    {.control = "Text3", .member = &PageSetupValues::topMargin, .rule = ">=0,<=48"},
+    {.control = "Text4", .member = &PageSetupValues::bottomMargin, .rule = ">=0,<=48"},
+    {.control = "Text5", .member = &PageSetupValues::leftMargin, .rule = ">=0,<=48"},
+    {.control = "Text6", .member = &PageSetupValues::rightMargin, .rule = ">=0,<=48"},
+    {.control = "Text1", .member = &PageSetupValues::header},
+    {.control = "Text2", .member = &PageSetupValues::footer},
+    {.control = "Option1", .member = &PageSetupValues::fitToPages},
+    {.control = "Check1_0", .member = &PageSetupValues::centerHorizontal},
+    {.control = "Check1_1", .member = &PageSetupValues::centerVertical},
+    {.control = "Check1_2", .member = &PageSetupValues::gridLines},
+    {.control = "Check1_3", .member = &PageSetupValues::blackAndWhite},
 };
 
 PageSetupValues PageSetupFields(const wb::PrintSetup& setup);

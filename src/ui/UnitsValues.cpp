@@ -1,21 +1,20 @@
 #include "ui/UnitsValues.h"
 
-#include "core/workbook/NamedCells.h"
+#include "ui/rules/FieldCells.h"
 
 namespace gustline {
 
 UnitsValues LoadUnits(wb::Workbook& project) {
   UnitsValues v;
-  v.pressure = wb::ReadNamedInt(project, "Pressure");
-  v.force = wb::ReadNamedInt(project, "Force");
-  v.moment = wb::ReadNamedInt(project, "Moment");
+  rules::LoadFields(project, kUnitsFields, v);
+  for (int* unit : {&v.pressure, &v.force, &v.moment}) {
+    if (*unit != 1) *unit = 0;
+  }
   return v;
 }
 
 void SaveUnits(wb::Workbook& project, const UnitsValues& v) {
-  wb::WriteNamedInt(project, "Pressure", v.pressure);
-  wb::WriteNamedInt(project, "Force", v.force);
-  wb::WriteNamedInt(project, "Moment", v.moment);
+  rules::SaveFields(project, kUnitsFields, v);
 }
 
 }  // namespace gustline

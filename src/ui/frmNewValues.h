@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/rules/FormField.h"
+
 namespace gustline {
 
 // One row of the new-project chooser: the preset's key, the text of `List1` and the plain
@@ -12,6 +14,15 @@ struct NewProjectRow {
   std::string key;
   std::string listText;
   std::string description;
+};
+
+// The row chosen in `List1`, -1 for none.
+struct NewProjectChoice {
+  int row = 0;
+};
+
+inline constexpr rules::FormField<NewProjectChoice> kNewProjectFields[] = {
+    {.control = "List1", .member = &NewProjectChoice::row},
 };
 
 // The rows in the order of the preset keys: " Normal" first, then "  MWFRS Figure 6-10" ...

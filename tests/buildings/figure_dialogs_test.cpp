@@ -5,30 +5,43 @@
 #include <QSlider>
 
 #include "DialogTesting.h"
-#include "buildings/Fig610.h"
-#include "buildings/Fig66.h"
+#include "buildings/qt/Fig610.h"
+#include "buildings/qt/Fig66.h"
 
 namespace gustline {
 namespace {
 
 using testing::DialogApp;
+using testing::ExpectRule;
 using testing::Field;
-using testing::RuleOf;
+using testing::RuleCase;
 
-TEST(FigureDialogsTest, EveryFieldCarriesItsRule) {
-  DialogApp d;
-  Fig66 fig66(d.app);
-  const std::pair<const char*, const char*> rules66[] = {{"Text4", ">=1,<=10000"},
-                                                         {"Text2", ">=0,<=90"},
-                                                         {"Text3", ">=0,<=90"},
-                                                         {"Text5", ">=0,<=1000"},
-                                                         {"Text1", ">=0,<=1000.0"},
-                                                         {"Text6", ""},
-                                                         {"Text7", ""}};
-  for (const auto& [field, rule] : rules66) EXPECT_EQ(RuleOf(fig66, field), rule) << field;
-  Fig610 fig610(d.app);
-  EXPECT_EQ(RuleOf(fig610, "Text1"), ">=0,<=90");
-  EXPECT_EQ(RuleOf(fig610, "Text2"), "");
+TEST(FigureDialogsTest, EveryTextBoxRefusesTextOutsideItsRule) {
+  const RuleCase rules66[] = {
+      {"Text4", "0.5", "Valid values are numbers from 1.000 to 10000.000"},
+      {"Text2", "91", "Valid values are numbers from 0.000 to 90.000"},
+      {"Text3", "-1", "Valid values are numbers from 0.000 to 90.000"},
+      {"Text5", "1001", "Valid values are numbers from 0.000 to 1000.000"},
+      {"Text1", "1000.5", "Valid values are numbers from 0.000 to 1000.000"},
+      {"Text6", "no rule", nullptr},
+      {"Text7", "no rule", nullptr},
+  };
+  for (const RuleCase& c : rules66) {
+    DialogApp d;
+    Fig66 fig66(d.app);
+    fig66.show();
+    ExpectRule(d, fig66, c);
+  }
+  const RuleCase rules610[] = {
+      {"Text1", "90.5", "Valid values are numbers from 0.000 to 90.000"},
+      {"Text2", "no rule", nullptr},
+  };
+  for (const RuleCase& c : rules610) {
+    DialogApp d;
+    Fig610 fig610(d.app);
+    fig610.show();
+    ExpectRule(d, fig610, c);
+  }
 }
 
 TEST(Fig66Test, OpensOnTheCellsWithTheirFormats) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "DialogTesting.h"
-#include "factors/frmMinPressure.h"
+#include "factors/qt/frmMinPressure.h"
 
 namespace gustline {
 namespace {
@@ -23,8 +23,8 @@ TEST(MinPressureTest, BoxLoadsFromTheCellAndOnlyOkWritesItBack) {
     DialogApp d;
     wb::WriteNamedInt(d.Project(), "UseMinWindPressure", c.stored);
     frmMinPressure dialog(d.app);
-    EXPECT_EQ(dialog.UseMinimum(), c.ticked) << c.stored;
-    dialog.SetUseMinimum(!c.ticked);
+    EXPECT_EQ(dialog.Values().useMinimum, c.ticked) << c.stored;
+    dialog.ShowValues({!c.ticked});
     if (c.ok) {
       dialog.Command1_Click();
     } else {

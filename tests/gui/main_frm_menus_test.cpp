@@ -3,7 +3,10 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <map>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "GuiApp.h"
 #include "core/RecentFiles.h"
@@ -13,61 +16,68 @@
 namespace gustline {
 namespace {
 
-struct MenuEntryCase {
-  const char* name;
-  const char* caption;
-  const char* prompt;
-};
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
-// Entries of the menu bar and the popup menu as the user meets them: object name, caption and
-// the prompt of panel 1; the odd spacing and empty prompts are the program's own.
-constexpr MenuEntryCase kMenuEntries[] = {
-    {"mnuFileNew", "&New...", "Create new project."},
-    {"mnuFileSave", "&Save", "Save the active project."},
-    {"mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report."},
-    {"mnuFileExit", "E&xit", "Quits the application; Prompts you to save project properties."},
-    {"mnuEditCopy", "&Copy", "Copy selected cells to clipboard."},
-    {"mnuEditLastCmd", "&Repeat Command", "Repeat last executed command."},
-    {"mnuEditProperties", "Project Properties...", ""},
-    {"mnuViewFullScreen", "F&ull Screen", ""},
-    {"mnuViewToolBar", "&Toolbar", "Toggle Toolbar ON or OFF."},
-    {"mnuZoomItem(0)", "25%", "Changes magnification of displayed document."},
-    {"mnuZoomItem(7)", "150%", "Changes magnification of displayed document."},
-    {"mnuPropertiesEquation", "A&nalytical Procedure", "Use Method 2- Analytical Procedure"},
-    {"mnuPropertiesWind", "&Wind Data...",
-     "Select basic wind speed, exposure, category, and mean sea level."},
-    {"mnuSimplified", "&Simplified Procedure", "Use Method 1 - Simplified Procedure"},
-    {"mnuInternal", "&Internal Pressure Coefficient...",
-     "Set internal pressure coefficient for buildings, GCpi."},
-    {"mnuMinPressure", "&Minimum Wind Pressure...", ""},
-    {"mnuPropertiesGeometry", "Define Geometry...", "Enter geometry X-Y coordinates."},
-    {"mnuPropertiesHeadings", "Page Headings...",
-     "Set page heading properties for ASCE 7-05 gustline report."},
-    {"mnuPropertiesUnits", "&Units...", "Select units of measure for pressure, force and moment."},
-    {"mnuToolsGustCalc", "&Gust Factor Calculator...", ""},
-    {"mnuOptions", "&Options...", ""},
-    {"mnuHelpContents", "&Contents", "Display help table of contents."},
-    {"mnuHelpAbout", "&About ", "Displays program information, version number and copyright."},
-    {"mnuPopupCopy", "&Copy", "Copy selected cells to clipboard."},
-    {"mnuPopupPressure", "&Design Equation...", "Use Method 2- Analytical Procedure"},
-    {"mnuPopupWind", "&Wind Data...",
-     "Select basic wind speed, exposure, category, and mean sea level."},
-    {"mnuPopupForce", "&Force or Pressure Coefficients...", ""},
-};
-
-TEST(MainFrmMenus, EveryEntryHasItsCaptionAndShowsItsPromptOnHover) {
+// The window against the table it is built from: every menu in its place with its title,
+// every entry with its caption, shortcut, tick and the prompt of panel 1 on hover (an
+// alias the prompt of the entry it runs), and each menu's lines in the table's order.
+TEST(MainFrmMenus, EveryLineOfTheTableStandsInItsMenu) {
   testing::EnsureApplication();
   MainFrm window;
-  for (const MenuEntryCase& entry : kMenuEntries) {
-    SCOPED_TRACE(entry.name);
+  const std::vector<MainFrm::MenuEntry> entries = MainFrm::MenuEntries();
+  std::map<std::string_view, std::string_view> prompts;
+  std::map<std::string_view, QStringList> lines;
+  for (const MainFrm::MenuEntry& entry : entries) {
+    SCOPED_TRACE(std::string(entry.menu) + " " + std::string(entry.name));
+    lines[entry.menu].append(Text(entry.name));
+    if (entry.kind == MainFrm::MenuKind::Separator) continue;
+    if (entry.kind == MainFrm::MenuKind::Menu) {
+      auto* menu = window.findChild<QMenu*>(Text(entry.name));
+      ASSERT_NE(menu, nullptr);
+      EXPECT_EQ(menu->title(), Text(entry.caption));
+      continue;
+    }
     QAction* action = window.Command(entry.name);
     ASSERT_NE(action, nullptr);
-    EXPECT_EQ(action->text().toStdString(), entry.caption);
+    EXPECT_EQ(action->text(), Text(entry.caption));
+    EXPECT_EQ(action->shortcut(), entry.shortcut);
+    EXPECT_EQ(action->isCheckable(),
+              entry.kind == MainFrm::MenuKind::Toggle || entry.kind == MainFrm::MenuKind::Choice);
+    prompts[entry.name] =
+        entry.kind == MainFrm::MenuKind::Alias ? prompts.at(entry.runs) : entry.prompt;
     auto* menu = qobject_cast<QMenu*>(action->associatedObjects().value(0));
     ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->objectName(), Text(entry.menu));
     window.SetStatusPanel(1, QStringLiteral("before"));
     emit menu->hovered(action);
-    EXPECT_EQ(window.StatusPanel(1).toStdString(), entry.prompt);
+    EXPECT_EQ(window.StatusPanel(1), Text(prompts[entry.name]));
+  }
+  for (const auto& [name, expected] : lines) {
+    SCOPED_TRACE(std::string(name));
+    const QList<QAction*> actions = name.empty() ? window.menuBar()->actions()
+                                                 : window.findChild<QMenu*>(Text(name))->actions();
+    QStringList shown;
+    for (const QAction* action : actions) shown.append(action->objectName());
+    EXPECT_EQ(shown, expected);
+  }
+}
+
+TEST(MainFrmMenus, RepeatCommandKeepsTheEntryThatRan) {
+  testing::EnsureApplication();
+  MainFrm window;
+  const std::pair<const char*, const char*> cases[] = {
+      {"mnuViewFullScreen", "F&ull Screen"},
+      {"mnuEditProperties", "F&ull Screen"},  // not stored
+      {"mnuZoomItem(2)", "75%"},
+      {"mnuPopupForce", "75%"},                       // not stored
+      {"mnuPopupPressure", "A&nalytical Procedure"},  // the entry it runs
+      {"mnuViewToolBar", "&Toolbar"},
+  };
+  for (const auto& [name, stored] : cases) {
+    window.RunCommand(name);
+    EXPECT_EQ(window.Repeat().LastCommand(), stored) << name;
   }
 }
 

@@ -1,10 +1,9 @@
-#include "buildings/Fig610.h"
+#include "buildings/qt/Fig610.h"
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/ReportHook.h"
 #include "core/workbook/NumberFormat.h"
-#include "ui/rules/qt/LineEditField.h"
+#include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig610.h"
 
 namespace gustline {
@@ -24,23 +23,19 @@ Fig610::Fig610(Application& app, QWidget* parent)
 Fig610::~Fig610() = default;
 
 Fig610Values Fig610::Values() const {
-  return {ui_->Text1->text().toStdString(), ui_->Check1->isChecked(),
-          ui_->Text2->text().toStdString()};
+  Fig610Values v;
+  rules::ReadFields(*this, kFig610Fields, v);
+  return v;
 }
 
 void Fig610::ShowValues(const Fig610Values& v) {
-  ui_->Text1->setText(QString::fromStdString(v.roofAngle));
-  ui_->Check1->setChecked(v.hasParapet);
-  ui_->Text2->setText(QString::fromStdString(v.parapetElevation));
+  rules::ShowFields(*this, kFig610Fields, v);
   ui_->Text2->setEnabled(v.hasParapet);
 }
 
 void Fig610::Command1_Click() {
-  if (!rules::CheckLineEdits(app_.prompt, {ui_->Text1})) return;
-  SaveFig610(app_.state.ProjectWorkbook(), Values());
-  app_.state.modifiedFlag = true;
-  accept();
-  app_.report.CreateReport(app_);
+  AcceptProperties(*this, app_, kFig610Fields,
+                   [this](wb::Workbook& project) { SaveFig610(project, Values()); });
 }
 
 }  // namespace gustline

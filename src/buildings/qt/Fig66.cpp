@@ -1,10 +1,9 @@
-#include "buildings/Fig66.h"
+#include "buildings/qt/Fig66.h"
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/ReportHook.h"
 #include "core/workbook/NumberFormat.h"
-#include "ui/rules/qt/LineEditField.h"
+#include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig66.h"
 
 namespace gustline {
@@ -32,30 +31,14 @@ Fig66::~Fig66() = default;
 
 Fig66Values Fig66::Values() const {
   Fig66Values v;
-  v.leewardLB = ui_->Text1->text().toStdString();
-  v.windwardAngle = ui_->Text2->text().toStdString();
-  v.leewardAngle = ui_->Text3->text().toStdString();
-  v.area = ui_->Text4->text().toStdString();
-  v.hL = ui_->Text5->text().toStdString();
-  v.useQz = ui_->Option1_1->isChecked();
-  v.z = ui_->Text6->text().toStdString();
-  v.hasParapet = ui_->Check1->isChecked();
-  v.parapetElevation = ui_->Text7->text().toStdString();
   v.table64 = table64_;
+  rules::ReadFields(*this, kFig66Fields, v);
   return v;
 }
 
 void Fig66::ShowValues(const Fig66Values& v) {
   table64_ = v.table64;
-  ui_->Text1->setText(QString::fromStdString(v.leewardLB));
-  ui_->Text2->setText(QString::fromStdString(v.windwardAngle));
-  ui_->Text3->setText(QString::fromStdString(v.leewardAngle));
-  ui_->Text4->setText(QString::fromStdString(v.area));
-  ui_->Text5->setText(QString::fromStdString(v.hL));
-  (v.useQz ? ui_->Option1_1 : ui_->Option1_0)->setChecked(true);
-  ui_->Text6->setText(QString::fromStdString(v.z));
-  ui_->Check1->setChecked(v.hasParapet);
-  ui_->Text7->setText(QString::fromStdString(v.parapetElevation));
+  rules::ShowFields(*this, kFig66Fields, v);
   ui_->Text7->setEnabled(v.hasParapet);
   UpdateQiFields();
 }
@@ -68,14 +51,8 @@ void Fig66::UpdateQiFields() {
 }
 
 void Fig66::Command1_Click() {
-  if (!rules::CheckLineEdits(app_.prompt,
-                             {ui_->Text4, ui_->Text2, ui_->Text3, ui_->Text5, ui_->Text1})) {
-    return;
-  }
-  SaveFig66(app_.state.ProjectWorkbook(), Values());
-  app_.state.modifiedFlag = true;
-  accept();
-  app_.report.CreateReport(app_);
+  AcceptProperties(*this, app_, kFig66Fields,
+                   [this](wb::Workbook& project) { SaveFig66(project, Values()); });
 }
 
 }  // namespace gustline

@@ -1,4 +1,4 @@
-#include "factors/TopographyPicture.h"
+#include "factors/qt/TopographyPicture.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,12 +1,8 @@
-#include "factors/frmMinPressure.h"
+#include "factors/qt/frmMinPressure.h"
 
 #include "core/Application.h"
-#include "core/FacilityErrorReport.h"
 #include "core/ProcessState.h"
-#include "core/ReportHook.h"
-#include "core/StatusSummary.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
+#include "ui/rules/qt/PropertyDialog.h"
 #include "ui_frmMinPressure.h"
 
 namespace gustline {
@@ -16,35 +12,24 @@ frmMinPressure::frmMinPressure(Application& app, QWidget* parent)
   ui_->setupUi(this);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &QDialog::reject);
-  SetUseMinimum(wb::ReadNamedInt(app_.state.ProjectWorkbook(), "UseMinWindPressure") == 1);
+  ShowValues(LoadMinPressure(app_.state.ProjectWorkbook()));
 }
 
 frmMinPressure::~frmMinPressure() = default;
 
-bool frmMinPressure::UseMinimum() const {
-  return ui_->Check1->isChecked();
+MinPressureValues frmMinPressure::Values() const {
+  MinPressureValues v;
+  rules::ReadFields(*this, kMinPressureFields, v);
+  return v;
 }
 
-void frmMinPressure::SetUseMinimum(bool use) {
-  ui_->Check1->setChecked(use);
+void frmMinPressure::ShowValues(const MinPressureValues& v) {
+  rules::ShowFields(*this, kMinPressureFields, v);
 }
 
 void frmMinPressure::Command1_Click() {
-  wb::WriteNamedInt(app_.state.ProjectWorkbook(), "UseMinWindPressure", UseMinimum() ? 1 : 0);
-  app_.state.modifiedFlag = true;
-  accept();
-  app_.report.CreateReport(app_);
-}
-
-bool ShowMinPressure(QWidget* parent, Application& app) {
-  try {
-    UpdateStatusSummary(app.state.ProjectWorkbook(), app.view);
-    frmMinPressure dialog(app, parent);
-    return dialog.exec() == QDialog::Accepted;
-  } catch (const wb::FacilityError& error) {
-    ReportFacilityError(app.prompt, error);
-    return false;
-  }
+  AcceptProperties(*this, app_, kMinPressureFields,
+                   [this](wb::Workbook& project) { SaveMinPressure(project, Values()); });
 }
 
 }  // namespace gustline

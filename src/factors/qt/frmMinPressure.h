@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "factors/MinPressureValues.h"
+
 namespace Ui {
 class frmMinPressure;
 }
@@ -11,8 +13,7 @@ namespace gustline {
 
 struct Application;
 
-// "Minimum Pressure": Check1 switches the 10 psf floor of section 6.1.4, stored in
-// `UseMinWindPressure` as 1 or 0.
+// "Minimum Pressure": Check1 switches the 10 psf floor of section 6.1.4.
 class frmMinPressure : public QDialog {
   Q_OBJECT
 
@@ -20,8 +21,8 @@ class frmMinPressure : public QDialog {
   explicit frmMinPressure(Application& app, QWidget* parent = nullptr);
   ~frmMinPressure() override;
 
-  bool UseMinimum() const;
-  void SetUseMinimum(bool use);
+  MinPressureValues Values() const;
+  void ShowValues(const MinPressureValues& values);
 
   // OK: writes the switch, marks the project changed and rebuilds the report.
   void Command1_Click();
@@ -30,8 +31,5 @@ class frmMinPressure : public QDialog {
   Application& app_;
   std::unique_ptr<Ui::frmMinPressure> ui_;
 };
-
-// The menu entry: refreshes the status summary and shows the dialog modally; true at OK.
-bool ShowMinPressure(QWidget* parent, Application& app);
 
 }  // namespace gustline

@@ -1,4 +1,4 @@
-#include "factors/frmTopography.h"
+#include "factors/qt/frmTopography.h"
 
 #include "ui_frmTopography.h"
 

@@ -1,7 +1,6 @@
 #include "report/qt/MainFrm.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
@@ -57,7 +56,6 @@ MainFrm::MainFrm(QWidget* parent) : QMainWindow(parent) {
           [this](const QPoint& pos) { ShowPopup(reportArea_->mapToGlobal(pos)); });
   setCentralWidget(reportArea_);
   BuildMenus();
-  BuildPopup();
   BuildToolbar();
   BuildStatusBar();
   auto* leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);

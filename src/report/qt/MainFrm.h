@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QMainWindow>
 #include <QString>
 #include <array>
@@ -7,11 +8,11 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "report/qt/RepeatCommand.h"
 
 class QAction;
-class QActionGroup;
 class QComboBox;
 class QLabel;
 class QMenu;
@@ -35,6 +36,32 @@ class MainFrm : public QMainWindow {
   Q_OBJECT
 
  public:
+  // What a line of the menus makes.
+  enum class MenuKind {
+    Menu,       // a menu of the menu bar, or of the menu named
+    Command,    // an entry that Repeat Command runs again
+    Once,       // an entry that Repeat Command leaves alone
+    Toggle,     // a command ticked on and off, ticked at first
+    Choice,     // a command ticked alone among the choices of its menu
+    Alias,      // runs the entry named in `runs`, with its prompt, and is not stored
+    Separator,  // a line between the entries of the menu
+  };
+
+  // One line of the menu bar or of the report's popup menu mnuPopup, in the order shown.
+  struct MenuEntry {
+    MenuKind kind;
+    std::string_view menu;  // the menu it stands in; empty for the menu bar
+    std::string_view name = {};
+    std::string_view caption = {};
+    std::string_view prompt = {};  // status panel 1 while the entry is highlighted
+    void (*command)(MainFrm&) = nullptr;
+    QKeySequence shortcut = {};
+    std::string_view runs = {};
+  };
+
+  // The menus; standard shortcuts come from the platform of the running application.
+  static std::vector<MenuEntry> MenuEntries();
+
   explicit MainFrm(QWidget* parent = nullptr);
   ~MainFrm() override;
 
@@ -88,13 +115,10 @@ class MainFrm : public QMainWindow {
   };
 
   void BuildMenus();
-  void BuildPopup();
   void BuildToolbar();
   void BuildStatusBar();
-  QAction* AddEntry(QMenu* menu, const char* name, const char* caption, const char* prompt,
-                    std::function<void()> handler, bool storesCommand = true);
-  void AddAlias(const char* name, const char* caption, const char* target, QMenu* menu);
-  QMenu* AddMenu(QMenu* parent, const char* name, const char* caption);
+  QMenu* AddMenu(QMenu* parent, const MenuEntry& entry);
+  QAction* AddEntry(QMenu* menu, const MenuEntry& entry);
   void WatchPrompts(QMenu* menu);
   void ShowPopup(const QPoint& globalPos);
 
@@ -104,6 +128,7 @@ class MainFrm : public QMainWindow {
     if (app_) command(*app_);
   }
   void FileNewCommand();
+  void OpenRecent(int entry);
   void FileExitCommand();
   void EditCopy();
   void RepeatLastCommand();
@@ -126,7 +151,6 @@ class MainFrm : public QMainWindow {
   QMenu* popup_ = nullptr;
   QToolBar* toolbar_ = nullptr;
   QComboBox* zoomList_ = nullptr;
-  QActionGroup* zoomGroup_ = nullptr;
   std::array<QAction*, 8> zoomItems_{};
   std::array<QAction*, 4> recentItems_{};
   std::array<QLabel*, 5> panels_{};

@@ -1,29 +1,55 @@
-// The handlers of the main window's own commands; the others call the Parts they name.
+// The handlers of the main window's own commands, and the dialogs of the procedures it hands
+// to the wind properties dialog; the other commands are the core's and the dialogs' own.
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QUrl>
 
+#include "buildings/qt/Fig610.h"
+#include "buildings/qt/Fig66.h"
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
 #include "core/FileExit.h"
 #include "core/FileNew.h"
+#include "core/FileOpen.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/StatusSummary.h"
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/Workbook.h"
+#include "factors/qt/frmTopography.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
-#include "ui/frmNew.h"
-#include "ui/frmWindProp.h"
+#include "ui/qt/frmNew.h"
+#include "ui/qt/frmWindProp.h"
 
 namespace gustline {
+namespace {
+
+// The figure dialogs of the procedures, which the wind properties dialog opens from its
+// coefficients and topography tabs. The other figures come with their procedures.
+FigureDialogs ProcedureDialogs() {
+  FigureDialogs dialogs;
+  dialogs.figures[FigureDialog::Fig66] = [](Application& app, QWidget* parent) {
+    Fig66(app, parent).exec();
+  };
+  dialogs.figures[FigureDialog::Fig610] = [](Application& app, QWidget* parent) {
+    Fig610(app, parent).exec();
+  };
+  dialogs.topography = [](QWidget* parent) { frmTopography(parent).exec(); };
+  return dialogs;
+}
+
+}  // namespace
 
 void MainFrm::FileNewCommand() {
   if (!app_) return;
   FileNew(*app_, [this] { return ChooseNewProject(this); });
+}
+
+void MainFrm::OpenRecent(int entry) {
+  if (app_) OpenRecentFile(*app_, entry);
 }
 
 void MainFrm::FileExitCommand() {
@@ -63,7 +89,7 @@ void MainFrm::RefreshStatusSummary() {
 }
 
 void MainFrm::OpenWindProperties(int tab) {
-  if (app_) ShowWindProperties(*app_, tab, this);
+  if (app_) ShowWindProperties(*app_, tab, ProcedureDialogs(), this);
 }
 
 void MainFrm::FormatWidth() {

@@ -1,5 +1,5 @@
 // The menu bar, the popup menu of the report and the prompts of status panel 1: every entry
-// with its object name, caption, prompt and handler.
+// with its object name, caption, prompt, handler and shortcut, built from one table.
 #include <QAction>
 #include <QActionGroup>
 #include <QMenu>
@@ -8,14 +8,15 @@
 #include "core/FileOpen.h"
 #include "core/FileSave.h"
 #include "core/FileSaveAs.h"
-#include "factors/frmMinPressure.h"
+#include "factors/qt/frmMinPressure.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
-#include "ui/About.h"
-#include "ui/Headings.h"
-#include "ui/PageSetup.h"
-#include "ui/Template.h"
-#include "ui/Units.h"
+#include "ui/qt/About.h"
+#include "ui/qt/Headings.h"
+#include "ui/qt/PageSetup.h"
+#include "ui/qt/Template.h"
+#include "ui/qt/Units.h"
+#include "ui/rules/qt/PropertyDialog.h"
 
 namespace gustline {
 namespace {
@@ -23,42 +24,225 @@ namespace {
 constexpr const char* kMenuTitlePrompt =
     "Press letter on menu title, or use arrow keys and press ENTER";
 constexpr const char* kPromptProperty = "prompt";
+constexpr std::string_view kRecentPrompt = "Open this file.";
+constexpr std::string_view kZoomPrompt = "Changes magnification of displayed document.";
 
-constexpr std::array<const char*, 8> kZoomCaptions = {"25%", "50%",  "75%",  "80%",
-                                                      "90%", "100%", "125%", "150%"};
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 }  // namespace
 
-QMenu* MainFrm::AddMenu(QMenu* parent, const char* name, const char* caption) {
-  QMenu* menu = parent ? parent->addMenu(QString::fromUtf8(caption))
-                       : menuBar()->addMenu(QString::fromUtf8(caption));
-  menu->setObjectName(QString::fromUtf8(name));
-  menu->menuAction()->setObjectName(QString::fromUtf8(name));
+std::vector<MainFrm::MenuEntry> MainFrm::MenuEntries() {
+  using enum MenuKind;
+  return {
+      {Menu, "", "mnuFile", "&File"},
+      {Command, "mnuFile", "mnuFileNew", "&New...", "Create new project.",
+       [](MainFrm& w) { w.FileNewCommand(); }, QKeySequence::New},
+      {Command, "mnuFile", "mnuFileOpen", "&Open...", "Open an existing project.",
+       [](MainFrm& w) { w.WithApplication(FileOpen); }, QKeySequence::Open},
+      {Command, "mnuFile", "mnuFileTemplate", "&Template...", "Change default template.",
+       [](MainFrm& w) {
+         if (w.app_) ShowTemplate(&w, *w.app_);
+       }},
+      {Separator, "mnuFile"},
+      {Command, "mnuFile", "mnuFileSave", "&Save", "Save the active project.",
+       [](MainFrm& w) { w.WithApplication(FileSave); }, QKeySequence::Save},
+      {Command, "mnuFile", "mnuFileSaveAs", "Save &As...",
+       "Save the active project with a new name.",
+       [](MainFrm& w) { w.WithApplication(FileSaveAs); }},
+      {Separator, "mnuFile"},
+      {Command, "mnuFile", "mnuFilePrintSetup", "Print Set&up...",
+       "Select printer, page orientation and paper size.",
+       [](MainFrm& w) { w.PrintSetupCommand(); }},
+      {Command, "mnuFile", "mnuFilePageSetup", "Pag&e Setup...",
+       "Define header, page margins, page centering.",
+       [](MainFrm& w) {
+         if (w.app_) ShowProperties<PageSetup>(&w, *w.app_, report::PrinterIsLandscape());
+       }},
+      {Command, "mnuFile", "mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report.",
+       [](MainFrm& w) { w.PrintCommand(); }, QKeySequence::Print},
+      {Command, "mnuFile", "mnuFilePrintPreview", "Print Pre&view", "Print Preview Report.",
+       [](MainFrm& w) { w.EnterPreview(); }},
+      {Separator, "mnuFile"},
+      {Command, "mnuFile", "mnuFileArray(0)", "", kRecentPrompt,
+       [](MainFrm& w) { w.OpenRecent(0); }},
+      {Command, "mnuFile", "mnuFileArray(1)", "", kRecentPrompt,
+       [](MainFrm& w) { w.OpenRecent(1); }},
+      {Command, "mnuFile", "mnuFileArray(2)", "", kRecentPrompt,
+       [](MainFrm& w) { w.OpenRecent(2); }},
+      {Command, "mnuFile", "mnuFileArray(3)", "", kRecentPrompt,
+       [](MainFrm& w) { w.OpenRecent(3); }},
+      {Separator, "mnuFile"},
+      {Command, "mnuFile", "mnuFileExit", "E&xit",
+       "Quits the application; Prompts you to save project properties.",
+       [](MainFrm& w) { w.FileExitCommand(); }},
+
+      {Menu, "", "mnuEdit", "&Edit"},
+      {Command, "mnuEdit", "mnuEditCopy", "&Copy", "Copy selected cells to clipboard.",
+       [](MainFrm& w) { w.EditCopy(); }, QKeySequence::Copy},
+      {Once, "mnuEdit", "mnuEditLastCmd", "&Repeat Command", "Repeat last executed command.",
+       [](MainFrm& w) { w.RepeatLastCommand(); }, Qt::Key_F4},
+      {Separator, "mnuEdit"},
+      {Once, "mnuEdit", "mnuEditProperties", "Project Properties..."},
+
+      {Menu, "", "mnuView", "&View"},
+      {Command, "mnuView", "mnuViewNormal", "&Normal", "",
+       [](MainFrm& w) {
+         w.SetFullScreenView(false);
+         w.LeavePreview();
+       }},
+      {Command, "mnuView", "mnuViewFullScreen", "F&ull Screen", "",
+       [](MainFrm& w) { w.SetFullScreenView(true); }},
+      {Separator, "mnuView"},
+      {Toggle, "mnuView", "mnuViewToolBar", "&Toolbar", "Toggle Toolbar ON or OFF.",
+       [](MainFrm& w) { w.SetToolbarVisible(!w.ToolbarVisible()); }},
+      {Toggle, "mnuView", "mnuViewStatus", "&Statusbar", "Toggle Status Bar ON or OFF.",
+       [](MainFrm& w) { w.SetStatusbarVisible(!w.StatusbarVisible()); }},
+      {Separator, "mnuView"},
+      {Menu, "mnuView", "mnuZoom", "&Zoom"},
+      {Choice, "mnuZoom", "mnuZoomItem(0)", "25%", kZoomPrompt, [](MainFrm& w) { w.ApplyZoom(0); }},
+      {Choice, "mnuZoom", "mnuZoomItem(1)", "50%", kZoomPrompt, [](MainFrm& w) { w.ApplyZoom(1); }},
+      {Choice, "mnuZoom", "mnuZoomItem(2)", "75%", kZoomPrompt, [](MainFrm& w) { w.ApplyZoom(2); }},
+      {Choice, "mnuZoom", "mnuZoomItem(3)", "80%", kZoomPrompt, [](MainFrm& w) { w.ApplyZoom(3); }},
+      {Choice, "mnuZoom", "mnuZoomItem(4)", "90%", kZoomPrompt, [](MainFrm& w) { w.ApplyZoom(4); }},
+      {Choice, "mnuZoom", "mnuZoomItem(5)", "100%", kZoomPrompt,
+       [](MainFrm& w) { w.ApplyZoom(5); }},
+      {Choice, "mnuZoom", "mnuZoomItem(6)", "125%", kZoomPrompt,
+       [](MainFrm& w) { w.ApplyZoom(6); }},
+      {Choice, "mnuZoom", "mnuZoomItem(7)", "150%", kZoomPrompt,
+       [](MainFrm& w) { w.ApplyZoom(7); }},
+
+      {Menu, "", "mnuParameters", "&Parameters"},
+      {Command, "mnuParameters", "mnuPropertiesEquation", "A&nalytical Procedure",
+       "Use Method 2- Analytical Procedure", [](MainFrm& w) { w.OpenWindProperties(0); }},
+      {Command, "mnuParameters", "mnuSimplified", "&Simplified Procedure",
+       "Use Method 1 - Simplified Procedure", [](MainFrm& w) { w.RefreshStatusSummary(); }},
+      {Separator, "mnuParameters"},
+      {Command, "mnuParameters", "mnuPropertiesWind", "&Wind Data...",
+       "Select basic wind speed, exposure, category, and mean sea level.",
+       [](MainFrm& w) { w.OpenWindProperties(1); }},
+      {Command, "mnuParameters", "mnuPropertiesBuilding", "&Building or Structure...",
+       "Enter basic building dimensions and physical properties : Height, Width, Depth, "
+       "Frequency and Damping.",
+       [](MainFrm& w) { w.OpenWindProperties(2); }},
+      {Command, "mnuParameters", "mnuPropertiesGust", "&Gust Factor...",
+       "Select gust factor method, or combined gust-pressure coefficient.",
+       [](MainFrm& w) { w.OpenWindProperties(3); }},
+      {Command, "mnuParameters", "mnuPropertiesTopo", "&Topographic Factor...",
+       "Enter hill geometry characteristics for obtaining topographic factor Kzt.",
+       [](MainFrm& w) { w.OpenWindProperties(4); }},
+      {Command, "mnuParameters", "mnuInternal", "&Internal Pressure Coefficient...",
+       "Set internal pressure coefficient for buildings, GCpi.",
+       [](MainFrm& w) { w.OpenWindProperties(6); }},
+      {Command, "mnuParameters", "mnuMinPressure", "&Minimum Wind Pressure...", "",
+       [](MainFrm& w) {
+         if (w.app_) ShowProperties<frmMinPressure>(&w, *w.app_);
+       }},
+      {Separator, "mnuParameters"},
+      {Command, "mnuParameters", "mnuPropertiesIntervals", "&Height Intervals...",
+       "Select height intervals, and order.", [](MainFrm& w) { w.RefreshStatusSummary(); }},
+      {Command, "mnuParameters", "mnuPropertiesGeometry", "Define Geometry...",
+       "Enter geometry X-Y coordinates.", [](MainFrm& w) { w.RefreshStatusSummary(); }},
+      {Separator, "mnuParameters"},
+      {Command, "mnuParameters", "mnuPropertiesHeadings", "Page Headings...",
+       "Set page heading properties for ASCE 7-05 gustline report.",
+       [](MainFrm& w) {
+         if (w.app_) ShowProperties<Headings>(&w, *w.app_);
+       }},
+      {Command, "mnuParameters", "mnuPropertiesUnits", "&Units...",
+       "Select units of measure for pressure, force and moment.",
+       [](MainFrm& w) {
+         if (w.app_) ShowProperties<Units>(&w, *w.app_);
+       }},
+
+      {Menu, "", "mnuFormat", "F&ormat"},
+      {Command, "mnuFormat", "mnuFormatWidth", "Column &Width", "Change column width.",
+       [](MainFrm& w) { w.FormatWidth(); }},
+      {Command, "mnuFormat", "mnuFormatNumber", "Custom &Number", "Change number format.",
+       [](MainFrm& w) { w.FormatNumber(); }},
+
+      {Menu, "", "mnuTools", "&Tools"},
+      {Command, "mnuTools", "mnuToolsGustCalc", "&Gust Factor Calculator..."},
+      {Once, "mnuTools", "mnuToolsConvert", "&Convert Wind..."},
+      {Once, "mnuTools", "mnuToolsCustomize", "C&ustomize..."},
+      {Once, "mnuTools", "mnuOptions", "&Options..."},
+
+      {Menu, "", "mnuHelp", "&Help"},
+      {Command, "mnuHelp", "mnuHelpContents", "&Contents", "Display help table of contents.",
+       [](MainFrm& w) { w.HelpContents(); }, Qt::Key_F1},
+      {Command, "mnuHelp", "mnuHelpAbout", "&About ",
+       "Displays program information, version number and copyright.",
+       [](MainFrm& w) { ShowAbout(&w); }},
+
+      {Alias, "mnuPopup", "mnuPopupCopy", "&Copy", "", nullptr, {}, "mnuEditCopy"},
+      {Separator, "mnuPopup"},
+      {Alias,
+       "mnuPopup",
+       "mnuPopupPressure",
+       "&Design Equation...",
+       "",
+       nullptr,
+       {},
+       "mnuPropertiesEquation"},
+      {Alias, "mnuPopup", "mnuPopupWind", "&Wind Data...", "", nullptr, {}, "mnuPropertiesWind"},
+      {Alias,
+       "mnuPopup",
+       "mnuPopupBuilding",
+       "&Building or Structure...",
+       "",
+       nullptr,
+       {},
+       "mnuPropertiesBuilding"},
+      {Alias, "mnuPopup", "mnuPopupGust", "&Gust Factor...", "", nullptr, {}, "mnuPropertiesGust"},
+      // The coefficient tab has no entry of its own on the menu bar, so nothing to repeat.
+      {Once, "mnuPopup", "mnuPopupForce", "&Force or Pressure Coefficients...", "",
+       [](MainFrm& w) { w.OpenWindProperties(5); }},
+      {Alias,
+       "mnuPopup",
+       "mnuPopupInternal",
+       "&Internal Pressure Coefficients...",
+       "",
+       nullptr,
+       {},
+       "mnuInternal"},
+      {Separator, "mnuPopup"},
+      {Alias, "mnuPopup", "mnuPopupUnits", "&Units...", "", nullptr, {}, "mnuPropertiesUnits"},
+  };
+}
+
+QMenu* MainFrm::AddMenu(QMenu* parent, const MenuEntry& entry) {
+  QMenu* menu =
+      parent ? parent->addMenu(Text(entry.caption)) : menuBar()->addMenu(Text(entry.caption));
+  menu->setObjectName(Text(entry.name));
+  menu->menuAction()->setObjectName(Text(entry.name));
   menu->menuAction()->setProperty(kPromptProperty, QString::fromUtf8(kMenuTitlePrompt));
   WatchPrompts(menu);
   return menu;
 }
 
-QAction* MainFrm::AddEntry(QMenu* menu, const char* name, const char* caption, const char* prompt,
-                           std::function<void()> handler, bool storesCommand) {
-  auto* action = new QAction(QString::fromUtf8(caption), this);
-  action->setObjectName(QString::fromUtf8(name));
-  action->setProperty(kPromptProperty, QString::fromUtf8(prompt ? prompt : ""));
-  if (menu) menu->addAction(action);
+QAction* MainFrm::AddEntry(QMenu* menu, const MenuEntry& entry) {
+  auto* action = new QAction(Text(entry.caption), this);
+  action->setObjectName(Text(entry.name));
+  action->setShortcut(entry.shortcut);
+  action->setCheckable(entry.kind == MenuKind::Toggle || entry.kind == MenuKind::Choice);
+  action->setChecked(entry.kind == MenuKind::Toggle);
+  menu->addAction(action);
   // Shortcuts keep working while full screen hides the menus.
   addAction(action);
-  const std::string key(name);
-  entries_[key] = Entry{action, storesCommand, std::move(handler)};
+  Entry built{action, entry.kind != MenuKind::Once && entry.kind != MenuKind::Alias, {}};
+  if (entry.kind == MenuKind::Alias) {
+    const std::string target(entry.runs);
+    action->setProperty(kPromptProperty, entries_.at(target).action->property(kPromptProperty));
+    built.handler = [this, target] { RunCommand(target); };
+  } else {
+    action->setProperty(kPromptProperty, Text(entry.prompt));
+    if (entry.command) built.handler = [this, command = entry.command] { command(*this); };
+  }
+  const std::string key(entry.name);
+  entries_[key] = std::move(built);
   connect(action, &QAction::triggered, this, [this, key] { RunCommand(key); });
   return action;
-}
-
-void MainFrm::AddAlias(const char* name, const char* caption, const char* target, QMenu* menu) {
-  const std::string targetName(target);
-  AddEntry(
-      menu, name, caption,
-      entries_.at(targetName).action->property(kPromptProperty).toString().toUtf8().constData(),
-      [this, targetName] { RunCommand(targetName); }, false);
 }
 
 void MainFrm::WatchPrompts(QMenu* menu) {
@@ -74,167 +258,34 @@ void MainFrm::BuildMenus() {
   connect(menuBar(), &QMenuBar::hovered, this, [this](QAction* action) {
     SetStatusPanel(1, action->property(kPromptProperty).toString());
   });
-
-  QMenu* file = AddMenu(nullptr, "mnuFile", "&File");
-  AddEntry(file, "mnuFileNew", "&New...", "Create new project.", [this] {
-    FileNewCommand();
-  })->setShortcut(QKeySequence::New);
-  AddEntry(file, "mnuFileOpen", "&Open...", "Open an existing project.", [this] {
-    WithApplication(FileOpen);
-  })->setShortcut(QKeySequence::Open);
-  AddEntry(file, "mnuFileTemplate", "&Template...", "Change default template.", [this] {
-    if (app_) ShowTemplate(this, *app_);
-  });
-  file->addSeparator();
-  AddEntry(file, "mnuFileSave", "&Save", "Save the active project.", [this] {
-    WithApplication(FileSave);
-  })->setShortcut(QKeySequence::Save);
-  AddEntry(file, "mnuFileSaveAs", "Save &As...", "Save the active project with a new name.",
-           [this] { WithApplication(FileSaveAs); });
-  file->addSeparator();
-  AddEntry(file, "mnuFilePrintSetup", "Print Set&up...",
-           "Select printer, page orientation and paper size.", [this] { PrintSetupCommand(); });
-  AddEntry(file, "mnuFilePageSetup", "Pag&e Setup...",
-           "Define header, page margins, page centering.", [this] {
-             if (app_) ShowPageSetup(this, *app_, report::PrinterIsLandscape());
-           });
-  AddEntry(file, "mnuFilePrintReport", "&Print...", "Print ASCE 7-05 Gustline Report.", [this] {
-    PrintCommand();
-  })->setShortcut(QKeySequence::Print);
-  AddEntry(file, "mnuFilePrintPreview", "Print Pre&view", "Print Preview Report.",
-           [this] { EnterPreview(); });
-  file->addSeparator();
-  for (int entry = 0; entry < 4; ++entry) {
-    const std::string name = "mnuFileArray(" + std::to_string(entry) + ")";
-    recentItems_[static_cast<std::size_t>(entry)] =
-        AddEntry(file, name.c_str(), "", "Open this file.", [this, entry] {
-          if (app_) OpenRecentFile(*app_, entry);
-        });
-    recentItems_[static_cast<std::size_t>(entry)]->setVisible(false);
-  }
-  file->addSeparator();
-  AddEntry(file, "mnuFileExit", "E&xit",
-           "Quits the application; Prompts you to save project properties.",
-           [this] { FileExitCommand(); });
-
-  QMenu* edit = AddMenu(nullptr, "mnuEdit", "&Edit");
-  AddEntry(edit, "mnuEditCopy", "&Copy", "Copy selected cells to clipboard.", [this] {
-    EditCopy();
-  })->setShortcut(QKeySequence::Copy);
-  AddEntry(
-      edit, "mnuEditLastCmd", "&Repeat Command", "Repeat last executed command.",
-      [this] { RepeatLastCommand(); }, false)
-      ->setShortcut(QKeySequence(Qt::Key_F4));
-  edit->addSeparator();
-  AddEntry(edit, "mnuEditProperties", "Project Properties...", nullptr, nullptr, false);
-
-  QMenu* view = AddMenu(nullptr, "mnuView", "&View");
-  AddEntry(view, "mnuViewNormal", "&Normal", nullptr, [this] {
-    SetFullScreenView(false);
-    LeavePreview();
-  });
-  AddEntry(view, "mnuViewFullScreen", "F&ull Screen", nullptr, [this] { SetFullScreenView(true); });
-  view->addSeparator();
-  QAction* toolbarItem = AddEntry(view, "mnuViewToolBar", "&Toolbar", "Toggle Toolbar ON or OFF.",
-                                  [this] { SetToolbarVisible(!ToolbarVisible()); });
-  toolbarItem->setCheckable(true);
-  toolbarItem->setChecked(true);
-  QAction* statusItem =
-      AddEntry(view, "mnuViewStatus", "&Statusbar", "Toggle Status Bar ON or OFF.",
-               [this] { SetStatusbarVisible(!StatusbarVisible()); });
-  statusItem->setCheckable(true);
-  statusItem->setChecked(true);
-  view->addSeparator();
-  QMenu* zoom = AddMenu(view, "mnuZoom", "&Zoom");
-  zoomGroup_ = new QActionGroup(this);
-  for (int index = 0; index < 8; ++index) {
-    const std::string name = "mnuZoomItem(" + std::to_string(index) + ")";
-    QAction* item = AddEntry(zoom, name.c_str(), kZoomCaptions[static_cast<std::size_t>(index)],
-                             "Changes magnification of displayed document.",
-                             [this, index] { ApplyZoom(index); });
-    item->setCheckable(true);
-    zoomGroup_->addAction(item);
-    zoomItems_[static_cast<std::size_t>(index)] = item;
-  }
-
-  QMenu* parameters = AddMenu(nullptr, "mnuParameters", "&Parameters");
-  AddEntry(parameters, "mnuPropertiesEquation", "A&nalytical Procedure",
-           "Use Method 2- Analytical Procedure", [this] { OpenWindProperties(0); });
-  AddEntry(parameters, "mnuSimplified", "&Simplified Procedure",
-           "Use Method 1 - Simplified Procedure", [this] { RefreshStatusSummary(); });
-  parameters->addSeparator();
-  AddEntry(parameters, "mnuPropertiesWind", "&Wind Data...",
-           "Select basic wind speed, exposure, category, and mean sea level.",
-           [this] { OpenWindProperties(1); });
-  AddEntry(parameters, "mnuPropertiesBuilding", "&Building or Structure...",
-           "Enter basic building dimensions and physical properties : Height, Width, Depth, "
-           "Frequency and Damping.",
-           [this] { OpenWindProperties(2); });
-  AddEntry(parameters, "mnuPropertiesGust", "&Gust Factor...",
-           "Select gust factor method, or combined gust-pressure coefficient.",
-           [this] { OpenWindProperties(3); });
-  AddEntry(parameters, "mnuPropertiesTopo", "&Topographic Factor...",
-           "Enter hill geometry characteristics for obtaining topographic factor Kzt.",
-           [this] { OpenWindProperties(4); });
-  AddEntry(parameters, "mnuInternal", "&Internal Pressure Coefficient...",
-           "Set internal pressure coefficient for buildings, GCpi.",
-           [this] { OpenWindProperties(6); });
-  AddEntry(parameters, "mnuMinPressure", "&Minimum Wind Pressure...", nullptr, [this] {
-    if (app_) ShowMinPressure(this, *app_);
-  });
-  parameters->addSeparator();
-  AddEntry(parameters, "mnuPropertiesIntervals", "&Height Intervals...",
-           "Select height intervals, and order.", [this] { RefreshStatusSummary(); });
-  AddEntry(parameters, "mnuPropertiesGeometry", "Define Geometry...",
-           "Enter geometry X-Y coordinates.", [this] { RefreshStatusSummary(); });
-  parameters->addSeparator();
-  AddEntry(parameters, "mnuPropertiesHeadings", "Page Headings...",
-           "Set page heading properties for ASCE 7-05 gustline report.", [this] {
-             if (app_) ShowHeadings(this, *app_);
-           });
-  AddEntry(parameters, "mnuPropertiesUnits", "&Units...",
-           "Select units of measure for pressure, force and moment.", [this] {
-             if (app_) ShowUnits(this, *app_);
-           });
-
-  QMenu* format = AddMenu(nullptr, "mnuFormat", "F&ormat");
-  AddEntry(format, "mnuFormatWidth", "Column &Width", "Change column width.",
-           [this] { FormatWidth(); });
-  AddEntry(format, "mnuFormatNumber", "Custom &Number", "Change number format.",
-           [this] { FormatNumber(); });
-
-  QMenu* tools = AddMenu(nullptr, "mnuTools", "&Tools");
-  AddEntry(tools, "mnuToolsGustCalc", "&Gust Factor Calculator...", nullptr, nullptr);
-  AddEntry(tools, "mnuToolsConvert", "&Convert Wind...", nullptr, nullptr, false);
-  AddEntry(tools, "mnuToolsCustomize", "C&ustomize...", nullptr, nullptr, false);
-  AddEntry(tools, "mnuOptions", "&Options...", nullptr, nullptr, false);
-
-  QMenu* help = AddMenu(nullptr, "mnuHelp", "&Help");
-  AddEntry(help, "mnuHelpContents", "&Contents", "Display help table of contents.", [this] {
-    HelpContents();
-  })->setShortcut(QKeySequence(Qt::Key_F1));
-  AddEntry(help, "mnuHelpAbout", "&About ",
-           "Displays program information, version number and copyright.",
-           [this] { ShowAbout(this); });
-}
-
-void MainFrm::BuildPopup() {
   popup_ = new QMenu(this);
   popup_->setObjectName(QStringLiteral("mnuPopup"));
   WatchPrompts(popup_);
-  AddAlias("mnuPopupCopy", "&Copy", "mnuEditCopy", popup_);
-  popup_->addSeparator();
-  AddAlias("mnuPopupPressure", "&Design Equation...", "mnuPropertiesEquation", popup_);
-  AddAlias("mnuPopupWind", "&Wind Data...", "mnuPropertiesWind", popup_);
-  AddAlias("mnuPopupBuilding", "&Building or Structure...", "mnuPropertiesBuilding", popup_);
-  AddAlias("mnuPopupGust", "&Gust Factor...", "mnuPropertiesGust", popup_);
-  // The coefficient tab has no entry of its own on the menu bar, so nothing to repeat.
-  AddEntry(
-      popup_, "mnuPopupForce", "&Force or Pressure Coefficients...", nullptr,
-      [this] { OpenWindProperties(5); }, false);
-  AddAlias("mnuPopupInternal", "&Internal Pressure Coefficients...", "mnuInternal", popup_);
-  popup_->addSeparator();
-  AddAlias("mnuPopupUnits", "&Units...", "mnuPropertiesUnits", popup_);
+
+  std::map<std::string, QMenu*, std::less<>> menus = {{"mnuPopup", popup_}};
+  std::map<QMenu*, QActionGroup*> choices;
+  for (const MenuEntry& entry : MenuEntries()) {
+    QMenu* menu = entry.menu.empty() ? nullptr : menus.find(entry.menu)->second;
+    if (entry.kind == MenuKind::Menu) {
+      menus.emplace(entry.name, AddMenu(menu, entry));
+    } else if (entry.kind == MenuKind::Separator) {
+      menu->addSeparator();
+    } else {
+      QAction* action = AddEntry(menu, entry);
+      if (entry.kind != MenuKind::Choice) continue;
+      QActionGroup*& group = choices[menu];
+      if (group == nullptr) group = new QActionGroup(this);
+      group->addAction(action);
+    }
+  }
+
+  for (std::size_t i = 0; i < recentItems_.size(); ++i) {
+    recentItems_[i] = Command("mnuFileArray(" + std::to_string(i) + ")");
+    recentItems_[i]->setVisible(false);
+  }
+  for (std::size_t i = 0; i < zoomItems_.size(); ++i) {
+    zoomItems_[i] = Command("mnuZoomItem(" + std::to_string(i) + ")");
+  }
 }
 
 }  // namespace gustline

@@ -1,4 +1,4 @@
-#include "ui/About.h"
+#include "ui/qt/About.h"
 
 #include <QCoreApplication>
 

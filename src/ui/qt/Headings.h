@@ -5,8 +5,6 @@
 
 #include "ui/HeadingsValues.h"
 
-class QLineEdit;
-
 namespace Ui {
 class Headings;
 }
@@ -40,8 +38,5 @@ class Headings : public QDialog {
   Application& app_;
   std::unique_ptr<Ui::Headings> ui_;
 };
-
-// The menu entry: refreshes the status summary and shows the dialog modally; true at OK.
-bool ShowHeadings(QWidget* parent, Application& app);
 
 }  // namespace gustline

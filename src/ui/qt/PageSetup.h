@@ -41,7 +41,4 @@ class PageSetup : public QDialog {
   std::unique_ptr<Ui::PageSetup> ui_;
 };
 
-// The menu entry: refreshes the status summary and shows the dialog modally; true at OK.
-bool ShowPageSetup(QWidget* parent, Application& app, bool printerLandscape);
-
 }  // namespace gustline

@@ -1,4 +1,4 @@
-#include "ui/Template.h"
+#include "ui/qt/Template.h"
 
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
@@ -6,6 +6,7 @@
 #include "core/ProcessState.h"
 #include "core/StatusSummary.h"
 #include "core/workbook/FacilityError.h"
+#include "ui/rules/qt/FormFields.h"
 #include "ui_Template.h"
 
 namespace gustline {
@@ -16,25 +17,27 @@ Template::Template(Application& app, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &QDialog::reject);
-  SetFieldText(QString::fromStdString(ActiveTemplateFieldText(app_)));
+  ShowValues({ActiveTemplateFieldText(app_)});
 }
 
 Template::~Template() = default;
 
-QString Template::FieldText() const {
-  return ui_->Text1->text();
+TemplateChoice Template::Values() const {
+  TemplateChoice v;
+  rules::ReadFields(*this, kTemplateFields, v);
+  return v;
 }
 
-void Template::SetFieldText(const QString& text) {
-  ui_->Text1->setText(text);
+void Template::ShowValues(const TemplateChoice& v) {
+  rules::ShowFields(*this, kTemplateFields, v);
 }
 
 void Template::Command1_Click() {
-  if (const auto path = BrowseTemplate(app_)) SetFieldText(QString::fromStdString(*path));
+  if (const auto path = BrowseTemplate(app_)) ShowValues({*path});
 }
 
 void Template::Command4_Click() {
-  if (AcceptTemplateName(app_, FieldText().toStdString())) accept();
+  if (AcceptTemplateName(app_, Values().name)) accept();
 }
 
 bool ShowTemplate(QWidget* parent, Application& app) {

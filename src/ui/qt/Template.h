@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <memory>
 
+#include "ui/TemplateValues.h"
+
 namespace Ui {
 class Template;
 }
@@ -20,8 +22,8 @@ class Template : public QDialog {
   explicit Template(Application& app, QWidget* parent = nullptr);
   ~Template() override;
 
-  QString FieldText() const;
-  void SetFieldText(const QString& text);
+  TemplateChoice Values() const;
+  void ShowValues(const TemplateChoice& values);
 
   // Browse: the chosen file goes into the field.
   void Command1_Click();

@@ -33,7 +33,4 @@ class Units : public QDialog {
   std::unique_ptr<Ui::Units> ui_;
 };
 
-// The menu entry: refreshes the status summary and shows the dialog modally; true at OK.
-bool ShowUnits(QWidget* parent, Application& app);
-
 }  // namespace gustline

@@ -1,8 +1,8 @@
-#include "ui/frmNew.h"
+#include "ui/qt/frmNew.h"
 
 #include <QEvent>
 
-#include "ui/frmNewValues.h"
+#include "ui/rules/qt/FormFields.h"
 #include "ui_frmNew.h"
 
 namespace gustline {
@@ -16,30 +16,32 @@ frmNew::frmNew(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmN
   connect(ui_->List1, &QListWidget::currentRowChanged, ui_->cobDescription,
           &QComboBox::setCurrentIndex);
   connect(ui_->cobDescription, &QComboBox::currentIndexChanged, this,
-          [this](int index) { SelectIndex(index); });
+          [this](int index) { ShowValues({index}); });
   connect(ui_->List1, &QListWidget::itemDoubleClicked, this, [this] { Command1_Click(); });
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &QDialog::reject);
   ui_->cobDescription->installEventFilter(this);
-  SelectIndex(0);
+  ShowValues({});
 }
 
 frmNew::~frmNew() = default;
 
 int frmNew::NewReportBox() {
-  return exec() == QDialog::Accepted ? SelectedIndex() : -1;
+  return exec() == QDialog::Accepted ? Values().row : -1;
 }
 
-int frmNew::SelectedIndex() const {
-  return ui_->List1->currentRow();
+NewProjectChoice frmNew::Values() const {
+  NewProjectChoice v;
+  rules::ReadFields(*this, kNewProjectFields, v);
+  return v;
 }
 
-void frmNew::SelectIndex(int index) {
-  ui_->List1->setCurrentRow(index);
+void frmNew::ShowValues(const NewProjectChoice& v) {
+  rules::ShowFields(*this, kNewProjectFields, v);
 }
 
 void frmNew::Command1_Click() {
-  if (SelectedIndex() >= 0) accept();
+  if (Values().row >= 0) accept();
 }
 
 bool frmNew::eventFilter(QObject* watched, QEvent* event) {

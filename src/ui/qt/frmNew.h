@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "ui/frmNewValues.h"
+
 namespace Ui {
 class frmNew;
 }
@@ -25,8 +27,8 @@ class frmNew : public QDialog {
   // (Cancel, or closed by the window frame).
   int NewReportBox();
 
-  int SelectedIndex() const;
-  void SelectIndex(int index);
+  NewProjectChoice Values() const;
+  void ShowValues(const NewProjectChoice& values);
 
   // OK, and a double click on `List1`: the chosen row is accepted.
   void Command1_Click();

@@ -1,27 +1,24 @@
-#include "ui/frmWindProp.h"
+#include "ui/qt/frmWindProp.h"
 
 #include <QButtonGroup>
 #include <QPointer>
 #include <QRadioButton>
 #include <QShowEvent>
 #include <initializer_list>
+#include <utility>
 
-#include "buildings/Fig610.h"
-#include "buildings/Fig66.h"
 #include "core/Application.h"
 #include "core/ApplicationView.h"
 #include "core/FacilityErrorReport.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
-#include "core/ReportHook.h"
 #include "core/StatusSummary.h"
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
-#include "factors/frmTopography.h"
 #include "ui/frmWindPropScreens.h"
 #include "ui/frmWindPropStatus.h"
 #include "ui/rules/FieldNumber.h"
-#include "ui/rules/qt/LineEditField.h"
+#include "ui/rules/qt/PropertyDialog.h"
 #include "ui_frmWindProp.h"
 
 namespace gustline {
@@ -53,10 +50,6 @@ std::string Text(const QLineEdit* edit) {
   return edit->text().toStdString();
 }
 
-void SetText(QLineEdit* edit, const std::string& text) {
-  edit->setText(QString::fromStdString(text));
-}
-
 }  // namespace
 
 frmWindProp::frmWindProp(Application& app, QWidget* parent)
@@ -73,6 +66,7 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
   for (const std::string& item : TableItems()) ui_->List2->addItem(QString::fromStdString(item));
   // The map viewer and the open-structure dialogs come with their own procedures.
   ui_->Command7->setEnabled(false);
+  SetFigureDialogs({});
 
   connect(system_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
   connect(structure_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
@@ -107,7 +101,9 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
   });
   connect(ui_->List1, &QListWidget::itemDoubleClicked, this, [this] { Command10_Click(); });
   connect(ui_->Command10, &QPushButton::clicked, this, [this] { Command10_Click(); });
-  connect(ui_->Command8, &QPushButton::clicked, this, [this] { frmTopography(this).exec(); });
+  connect(ui_->Command8, &QPushButton::clicked, this, [this] {
+    if (figureDialogs_.topography) figureDialogs_.topography(this);
+  });
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &frmWindProp::reject);
 }
@@ -125,55 +121,18 @@ QButtonGroup* frmWindProp::Group(const char* array, int count) {
 
 WindProperties frmWindProp::Values() const {
   WindProperties v = held_;
-  v.system = CheckedOr(system_, held_.system);
-  v.structure = CheckedOr(structure_, held_.structure);
-  v.table64 = CheckedOr(enclosure_, held_.table64);
-  v.kd = ui_->Check2->isChecked();
-  v.categoryOption = CheckedOr(category_, held_.categoryOption);
-  v.hurricane = ui_->ChkHurricane->isChecked();
-  v.exposure = exposure_->checkedId() >= 0 ? exposure_->checkedId() + 1 : held_.exposure;
-  v.windSpeed = Text(ui_->Text6);
-  v.meanSeaLevel = Text(ui_->Text7);
-  v.height = Text(ui_->Text1);
-  v.width = Text(ui_->Text2);
-  v.depth = Text(ui_->Text3);
-  v.frequency = Text(ui_->Text4);
-  v.dampingPercent = Text(ui_->Text5);
-  v.hillType = CheckedOr(hill_, held_.hillType);
-  v.hillHeight = Text(ui_->HillHeight);
-  v.hillLh = Text(ui_->HillLh);
-  v.hillX = Text(ui_->HillX);
-  v.gustType = CheckedOr(gust_, held_.gustType);
-  v.computeRi = ri_->checkedId() == 1;
-  v.aog = Text(ui_->TextAog);
-  v.vi = Text(ui_->TextVi);
+  rules::ReadFields(*this, kWindPropertiesFields, v);
   return v;
 }
 
 void frmWindProp::ShowValues(const WindProperties& v) {
   held_ = v;
-  Check(system_, v.system);
-  Check(structure_, v.structure);
-  Check(enclosure_, v.table64);
-  ui_->Check2->setChecked(v.kd);
-  Check(category_, v.categoryOption);
-  ui_->ChkHurricane->setChecked(v.hurricane);
-  Check(exposure_, v.exposure - 1);
-  SetText(ui_->Text6, v.windSpeed);
-  SetText(ui_->Text7, v.meanSeaLevel);
-  SetText(ui_->Text1, v.height);
-  SetText(ui_->Text2, v.width);
-  SetText(ui_->Text3, v.depth);
-  SetText(ui_->Text4, v.frequency);
-  SetText(ui_->Text5, v.dampingPercent);
-  Check(hill_, v.hillType);
-  SetText(ui_->HillHeight, v.hillHeight);
-  SetText(ui_->HillLh, v.hillLh);
-  SetText(ui_->HillX, v.hillX);
-  Check(gust_, v.gustType);
-  Check(ri_, v.computeRi ? 1 : 0);
-  SetText(ui_->TextAog, v.aog);
-  SetText(ui_->TextVi, v.vi);
+  rules::ShowFields(*this, kWindPropertiesFields, v);
+}
+
+void frmWindProp::SetFigureDialogs(FigureDialogs dialogs) {
+  figureDialogs_ = std::move(dialogs);
+  ui_->Command8->setEnabled(static_cast<bool>(figureDialogs_.topography));
 }
 
 void frmWindProp::UpdatePressureScreen() {
@@ -292,7 +251,6 @@ void frmWindProp::showEvent(QShowEvent* event) {
 }
 
 void frmWindProp::Form_Activate() {
-  cancelled_ = false;
   try {
     ShowValues(LoadWindProperties(app_.state.ProjectWorkbook()));
   } catch (const wb::FacilityError& error) {
@@ -308,39 +266,23 @@ void frmWindProp::Form_Activate() {
   heightAtActivation_ = Text(ui_->Text1);
 }
 
-void frmWindProp::Form_Deactivate() {
-  if (cancelled_) return;
-  try {
-    SaveWindProperties(app_.state.ProjectWorkbook(), Values(), ui_->SSTab1->currentIndex());
-  } catch (const wb::FacilityError& error) {
-    ReportFacilityError(app_.prompt, error);
-  }
-  if (reportOnLeave_) app_.report.CreateReport(app_);
-}
-
 void frmWindProp::Command1_Click() {
   const WindProperties v = Values();
   if (Text(ui_->Text1) != heightAtActivation_ && FigureDependsOnHeight(v.system, v.figure)) {
     app_.prompt.Show(NewHeightWarning());
   }
-  if (!rules::CheckLineEdits(app_.prompt,
-                             {ui_->HillX, ui_->HillLh, ui_->HillHeight, ui_->Text3, ui_->Text2,
-                              ui_->Text1, ui_->Text5, ui_->Text4, ui_->Text6, ui_->Text7})) {
-    return;
-  }
-  // Low-rise buildings are left with the warning of Figure 6-10 when they are too tall.
-  if (v.system == 0 && v.structure == 0) {
-    const PressureScreen screen = PressureScreenFor(0, 0, rules::FieldValue(v.height));
-    if (screen.warning) app_.prompt.Show(*screen.warning);
-  }
-  app_.state.modifiedFlag = true;
-  accept();
-  Form_Deactivate();
-}
-
-void frmWindProp::reject() {
-  cancelled_ = true;
-  QDialog::reject();
+  const int tab = ui_->SSTab1->currentIndex();
+  AcceptProperties(
+      *this, app_, kWindPropertiesFields,
+      [this, &v, tab](wb::Workbook& project) {
+        // Low-rise buildings are left with the warning of Figure 6-10 when they are too tall.
+        if (v.system == 0 && v.structure == 0) {
+          const PressureScreen screen = PressureScreenFor(0, 0, rules::FieldValue(v.height));
+          if (screen.warning) app_.prompt.Show(*screen.warning);
+        }
+        SaveWindProperties(project, v, tab);
+      },
+      reportOnLeave_);
 }
 
 void frmWindProp::ReloadCarriedValues() {
@@ -363,12 +305,8 @@ void frmWindProp::Command10_Click() {
       wb::WriteNamedInt(app_.state.ProjectWorkbook(), "Table64",
                         CheckedOr(enclosure_, held_.table64));
     }
-    // The other figure dialogs come with the procedures of their figures.
-    if (choice.dialog == FigureDialog::Fig66) {
-      Fig66(app_, this).exec();
-    } else if (choice.dialog == FigureDialog::Fig610) {
-      Fig610(app_, this).exec();
-    }
+    const auto dialog = figureDialogs_.figures.find(choice.dialog);
+    if (dialog != figureDialogs_.figures.end()) dialog->second(app_, this);
     ReloadCarriedValues();
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_.prompt, error);
@@ -386,9 +324,11 @@ frmWindProp& WindPropertiesForm(Application& app, QWidget* parent) {
   return *form;
 }
 
-void ShowWindProperties(Application& app, int tab, QWidget* parent) {
+void ShowWindProperties(Application& app, int tab, const FigureDialogs& figureDialogs,
+                        QWidget* parent) {
   UpdateStatusSummary(app.state.ProjectWorkbook(), app.view);
   frmWindProp& form = WindPropertiesForm(app, parent);
+  form.SetFigureDialogs(figureDialogs);
   form.TabSelect(tab);
   form.show();
   form.raise();

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ui/frmWindPropValues.h"
+#include "ui/qt/FigureDialogs.h"
 
 class QButtonGroup;
 class QRadioButton;
@@ -25,7 +26,8 @@ struct Application;
 // Option2_n (Structure), Option3_n (category I to IV), Option4_0 to Option4_2 (exposure
 // B, C, D), Option5_n (GustType), Option6_n (HillType), Option7_n (the enclosure class
 // n of Table64, shown enclosed first), Option8_0 (Ri = 1.0) and Option8_1 (compute Ri).
-// Its values are loaded from WindData when it is shown and written back when OK hides it.
+// Its values are loaded from WindData when it is shown and written back when OK hides it;
+// Command2, the close box and Escape hide it and write nothing.
 class frmWindProp : public QDialog {
   Q_OBJECT
 
@@ -45,8 +47,10 @@ class frmWindProp : public QDialog {
 
   void Command1_Click();
   void Command10_Click();
-  // Command2, the close box and Escape: hides the form and writes nothing.
-  void reject() override;
+
+  // The figure and topography dialogs that Command10 and Command8 open; without one the
+  // button does nothing, and Command8 is off.
+  void SetFigureDialogs(FigureDialogs dialogs);
 
   // The simplified dialog, which opens this one on its topography tab, builds the report
   // itself afterwards; meanwhile leaving this form writes the cells only.
@@ -57,7 +61,6 @@ class frmWindProp : public QDialog {
 
  private:
   void Form_Activate();
-  void Form_Deactivate();
   void SystemOrStructureChanged();
   void TabChanged(int tab);
   void UpdateRiFrame();
@@ -80,15 +83,16 @@ class frmWindProp : public QDialog {
   // carried from the figure dialogs, the interval method, and the height at activation.
   WindProperties held_;
   std::string heightAtActivation_;
-  bool cancelled_ = false;
   bool reportOnLeave_ = true;
+  FigureDialogs figureDialogs_;
 };
 
 // The dialog of the program, created on first use for this application and then kept.
 frmWindProp& WindPropertiesForm(Application& app, QWidget* parent = nullptr);
 
 // What the parameter commands of the main window do: refresh the status summary, select
-// the tab and show the dialog.
-void ShowWindProperties(Application& app, int tab, QWidget* parent = nullptr);
+// the tab and show the dialog, which opens the figure dialogs given.
+void ShowWindProperties(Application& app, int tab, const FigureDialogs& figureDialogs,
+                        QWidget* parent = nullptr);
 
 }  // namespace gustline

@@ -1,43 +1,45 @@
 #include "ui/rules/CellRules.h"
 
-#include <array>
 #include <string>
+#include <vector>
 
+#include "buildings/Fig610Values.h"
+#include "buildings/Fig66Values.h"
 #include "core/workbook/NumberFormat.h"
 #include "core/workbook/TextCompare.h"
+#include "ui/frmWindPropValues.h"
 #include "ui/rules/CheckRule.h"
 #include "ui/rules/FieldNumber.h"
+#include "ui/rules/FormField.h"
 
 namespace gustline::rules {
 namespace {
 
-constexpr std::array<CellRule, 16> kCellRules = {{
-    {"frmWindProp", "Text6", "WindSpeed", ">=0.0,<=500.00", 1},
-    {"frmWindProp", "Text7", "MeanSeaLevel", ">=0.0,<=10000", 1},
-    {"frmWindProp", "Text1", "Height", ">=1.00,<=2000.00", 1},
-    {"frmWindProp", "Text2", "Width", ">=1.0", 1},
-    {"frmWindProp", "Text3", "Depth", ">=1.0", 1},
-    {"frmWindProp", "Text4", "Frequency", ">=0,<=100.00", 1},
-    {"frmWindProp", "Text5", "Damping", ">=0.0001,<=50.0", 100},
-    {"frmWindProp", "HillHeight", "HillHeight", ">=1.0", 1},
-    {"frmWindProp", "HillLh", "HillLh", ">=1", 1},
-    {"frmWindProp", "HillX", "HillX", ">=1", 1},
-    {"Fig66", "Text1", "Figure63LB", ">=0,<=1000.0", 1},
-    {"Fig66", "Text2", "Figure63WinAng", ">=0,<=90", 1},
-    {"Fig66", "Text3", "Figure63LeeAng", ">=0,<=90", 1},
-    {"Fig66", "Text4", "Figure63Area", ">=1,<=10000", 1},
-    {"Fig66", "Text5", "Figure63HL", ">=0,<=1000", 1},
-    {"Fig610", "Text1", "Figure64Angle", ">=0,<=90", 1},
-}};
+template <typename Values, std::size_t N>
+void AddRules(std::vector<CellRule>& rules, std::string_view dialog,
+              const FormField<Values> (&fields)[N]) {
+  for (const FormField<Values>& field : fields) {
+    if (!field.cell.empty() && !field.rule.empty())
+      rules.push_back({dialog, field.control, field.cell, field.rule, field.perCell});
+  }
+}
 
 }  // namespace
 
 std::span<const CellRule> CellRules() {
-  return kCellRules;
+  // Every dialog whose text boxes write the project's cells.
+  static const std::vector<CellRule> rules = [] {
+    std::vector<CellRule> gathered;
+    AddRules(gathered, "frmWindProp", kWindPropertiesFields);
+    AddRules(gathered, "Fig66", kFig66Fields);
+    AddRules(gathered, "Fig610", kFig610Fields);
+    return gathered;
+  }();
+  return rules;
 }
 
 const CellRule* FindCellRule(std::string_view cell) {
-  for (const CellRule& rule : kCellRules)
+  for (const CellRule& rule : CellRules())
     if (wb::EqualNoCase(rule.cell, cell)) return &rule;
   return nullptr;
 }

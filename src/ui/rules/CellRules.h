@@ -11,9 +11,10 @@ namespace gustline::rules {
 
 // The rule of a dialog's field that writes one named cell of the project, so that input
 // which does not come through the dialog (the command line's --set) meets the same limits.
+// Taken from the dialogs' field tables.
 struct CellRule {
   std::string_view dialog;
-  std::string_view field;  // the text box, whose tag holds the same rule
+  std::string_view field;  // the text box
   std::string_view cell;
   std::string_view rule;
   double fieldPerCell;  // the field shows the cell's value times this: damping in per cent

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QVariant>
@@ -49,9 +51,26 @@ QLineEdit* Field(Dialog& dialog, const char* name) {
   return dialog.template findChild<QLineEdit*>(name);
 }
 
+// A text typed into a box, and the message its rule gives at OK; nullptr for a box without
+// a rule, which takes any text.
+struct RuleCase {
+  const char* field;
+  const char* text;
+  const char* message;
+};
+
+// Types the text into the shown dialog and presses OK: a refused text keeps the dialog
+// with the rule's message last, and nothing is written or built.
 template <typename Dialog>
-std::string RuleOf(Dialog& dialog, const char* name) {
-  return Field(dialog, name)->property("tag").toString().toStdString();
+void ExpectRule(DialogApp& d, Dialog& dialog, const RuleCase& c) {
+  SCOPED_TRACE(c.field);
+  Field(dialog, c.field)->setText(c.text);
+  dialog.Command1_Click();
+  EXPECT_EQ(dialog.isVisible(), c.message != nullptr);
+  EXPECT_EQ(d.state.modifiedFlag, c.message == nullptr);
+  if (c.message == nullptr) return;
+  ASSERT_FALSE(d.prompt.messages.empty());
+  EXPECT_EQ(d.prompt.messages.back().text, c.message);
 }
 
 }  // namespace gustline::testing

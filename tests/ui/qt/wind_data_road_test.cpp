@@ -11,7 +11,7 @@
 #include "report/TemplateCatalog.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"
-#include "ui/frmWindProp.h"
+#include "ui/qt/frmWindProp.h"
 
 namespace gustline {
 namespace {
