@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "core/Prompt.h"
+#include "geometry/HeightList.h"
 #include "geometry/IntervalAreas.h"
 #include "geometry/Nudge.h"
-#include "report/HeightList.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ Outline Tower() {
 
 void IntervalAreasOfATower(benchmark::State& state) {
   const Outline outline = Tower();
-  const auto table = gustline::report::BuildIntervalTable(100, 1, "");
+  const auto table = gustline::geometry::BuildIntervalTable(100, 1, "");
   gustline::ScriptedPrompt prompt;
   gustline::geometry::CutRandom random(17);
   for (auto _ : state) {

@@ -8,7 +8,7 @@
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/Workbook.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 namespace gustline::cli {
 namespace {
@@ -26,8 +26,8 @@ int RunHeights(const std::vector<std::string>& args) {
     const int interval = wb::ReadNamedInt(*project, "Interval");
     const int order = wb::ReadNamedInt(*project, "Order");
     const std::string userIntervals = wb::ReadNamedText(*project, "UserIntervals");
-    const std::string text = report::BuildHeightText(height, interval, order, userIntervals);
-    const int rows = report::CountHeightRows(height, interval, userIntervals);
+    const std::string text = geometry::BuildHeightText(height, interval, order, userIntervals);
+    const int rows = geometry::CountHeightRows(height, interval, userIntervals);
     std::cout << text << "rows\t" << rows << '\n';
   } catch (const wb::FacilityError& error) {
     std::cerr << "gustline-cli heights: " << error.what() << '\n';

@@ -175,8 +175,7 @@ class StatusText {
 }  // namespace
 
 std::vector<float> OutlineIntervalAreas(const std::vector<double>& x, const std::vector<double>& y,
-                                        double height,
-                                        const std::vector<report::HeightInterval>& table,
+                                        double height, const std::vector<HeightInterval>& table,
                                         Prompt& prompt, CutRandom& random) {
   std::vector<float> areas(table.size(), 0.0f);
   Extent xExtent{}, yExtent{};
@@ -224,8 +223,8 @@ std::string GetIntervalAreas(wb::Workbook& project, const AreaContext& context) 
   const StatusText status(context.showStatus, "Calculating Area...");
   const double height = wb::ReadNamedNumber(project, "Height");
   const int order = wb::ReadNamedInt(project, "Order");
-  const auto table = report::BuildIntervalTable(height, wb::ReadNamedInt(project, "Interval"),
-                                                wb::ReadNamedText(project, "UserIntervals"));
+  const auto table = BuildIntervalTable(height, wb::ReadNamedInt(project, "Interval"),
+                                        wb::ReadNamedText(project, "UserIntervals"));
   if (context.ignoreArea) {
     std::string text;
     for (std::size_t i = 0; i < table.size(); ++i) text += "1.00 ";

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 namespace gustline {
 class Prompt;
@@ -32,8 +32,7 @@ struct AreaContext {
 // first point) inside each interval of the table, by the same index. Warnings go through
 // the prompt; when the outline cannot be used every area is 0.
 std::vector<float> OutlineIntervalAreas(const std::vector<double>& x, const std::vector<double>& y,
-                                        double height,
-                                        const std::vector<report::HeightInterval>& table,
+                                        double height, const std::vector<HeightInterval>& table,
                                         Prompt& prompt, CutRandom& random);
 
 // The areas as the report reads them: each "0.00" and one blank, the highest interval first

@@ -5,7 +5,7 @@
 #include "core/workbook/CellAddress.h"
 #include "core/workbook/Value.h"
 #include "core/workbook/Workbook.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 namespace gustline::report {
 namespace {
@@ -117,7 +117,7 @@ std::string OneValuePerLine(std::string_view blankList) {
 
 std::string CommaListLines(std::string_view commaList) {
   std::string lines;
-  for (const double value : ReadCommaList(commaList))
+  for (const double value : geometry::ReadCommaList(commaList))
     lines.append(wb::FormatShortest(value)).append(kLineEnd);
   return lines;
 }

@@ -8,8 +8,8 @@
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/NumberFormat.h"
 #include "core/workbook/Workbook.h"
+#include "geometry/HeightList.h"
 #include "geometry/IntervalAreas.h"
-#include "report/HeightList.h"
 #include "report/HeightTables.h"
 #include "report/ReportRefresh.h"
 
@@ -32,8 +32,8 @@ Heights ReadHeights(wb::Workbook& project) {
   const int interval = wb::ReadNamedInt(project, "Interval");
   const std::string userIntervals = wb::ReadNamedText(project, "UserIntervals");
   const int order = wb::ReadNamedInt(project, "Order");
-  return Heights{CountHeightRows(height, interval, userIntervals),
-                 BuildHeightText(height, interval, order, userIntervals), order};
+  return Heights{geometry::CountHeightRows(height, interval, userIntervals),
+                 geometry::BuildHeightText(height, interval, order, userIntervals), order};
 }
 
 std::string OutlineAreas(const BuildContext& context) {

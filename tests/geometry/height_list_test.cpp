@@ -3,9 +3,9 @@
 #include <string>
 
 #include "core/workbook/FacilityError.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
-namespace gustline::report {
+namespace gustline::geometry {
 namespace {
 
 struct HeightCase {
@@ -75,4 +75,4 @@ TEST(HeightList, HeightsBeyondTheLadderOrSixteenBitsRaise) {
 }
 
 }  // namespace
-}  // namespace gustline::report
+}  // namespace gustline::geometry

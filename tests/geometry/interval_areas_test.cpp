@@ -9,14 +9,14 @@
 #include "core/Prompt.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/Workbook.h"
+#include "geometry/HeightList.h"
 #include "geometry/IntervalAreas.h"
 #include "geometry/Nudge.h"
-#include "report/HeightList.h"
 
 namespace gustline::geometry {
 namespace {
 
-using report::BuildIntervalTable;
+using geometry::BuildIntervalTable;
 
 // The cut lines sit up to 0.001 ft above their elevations: that much of a slab's height,
 // times the outline's width, is the spread a nudge explains.
@@ -28,7 +28,7 @@ struct Outline {
 
 // The nominal area of a rectangle of the given width from y = 0 to `top` between the cuts
 // of an interval: the lower cut lies 0.01 below the interval's low end.
-double Nominal(double width, double top, const report::HeightInterval& interval) {
+double Nominal(double width, double top, const geometry::HeightInterval& interval) {
   const double high = std::min<double>(interval.high, top);
   const double low = std::max<double>(interval.low - 0.01, 0);
   return high > low ? width * (high - low) : 0;

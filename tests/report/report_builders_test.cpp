@@ -10,7 +10,7 @@
 #include "core/workbook/FacilityError.h"
 #include "core/workbook/NamedCells.h"
 #include "core/workbook/Value.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 #include "report/ReportSelection.h"
 #include "report/TemplateCatalog.h"
 
@@ -111,7 +111,7 @@ class ReportBuildersTest : public ::testing::Test, public ReportFixture {
   }
 
   // The default project: 60 ft by the standard ladder, the highest interval first.
-  const int rows_ = CountHeightRows(60, 0, "");
+  const int rows_ = geometry::CountHeightRows(60, 0, "");
   const int lastRow_ = 11 + rows_ - 1;
 };
 

@@ -6,7 +6,7 @@
 
 #include "ReportFixture.h"
 #include "core/workbook/NamedCells.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 namespace gustline::report {
 namespace {
@@ -32,7 +32,7 @@ TEST_F(ReportEndToEndTest, LowRiseReportOfTheDefaultProject) {
 
 TEST_F(ReportEndToEndTest, AllHeightsReportFollowsOrder) {
   Set("Structure", 1);
-  const int rows = CountHeightRows(60, 0, "");
+  const int rows = geometry::CountHeightRows(60, 0, "");
   struct Case {
     int order;
     int lowestRow;  // 0 to 15 ft

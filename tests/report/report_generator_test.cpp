@@ -8,7 +8,7 @@
 #include "ReportFixture.h"
 #include "core/FileNames.h"
 #include "core/workbook/FacilityError.h"
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 namespace gustline::report {
 namespace {
@@ -90,7 +90,7 @@ class ReportGeneratorTest : public ::testing::Test, public ReportFixture {
     Install(*TablesTemplate("Figure66A"), D);
   }
   // The rows of the default height list: 60 ft by the standard ladder.
-  const int rows_ = CountHeightRows(60, 0, "");
+  const int rows_ = geometry::CountHeightRows(60, 0, "");
 };
 
 TEST_F(ReportGeneratorTest, RepeatsTheRowsAndWritesTheSummaryByOrder) {

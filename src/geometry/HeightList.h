@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace gustline::report {
+namespace gustline::geometry {
 
 // One height interval in feet, as the area calculation keeps it: in single precision.
 struct HeightInterval {
@@ -30,4 +30,4 @@ std::vector<HeightInterval> BuildIntervalTable(double height, int interval,
 // separate, and empty entries are dropped. An entry that does not start with a number is 0.
 std::vector<double> ReadCommaList(std::string_view text);
 
-}  // namespace gustline::report
+}  // namespace gustline::geometry

@@ -1,4 +1,4 @@
-#include "report/HeightList.h"
+#include "geometry/HeightList.h"
 
 #include <array>
 #include <charconv>
@@ -8,7 +8,7 @@
 
 #include "core/workbook/FacilityError.h"
 
-namespace gustline::report {
+namespace gustline::geometry {
 namespace {
 
 // The standard height ladder of the report tables, in feet.
@@ -160,4 +160,4 @@ std::vector<HeightInterval> BuildIntervalTable(double height, int interval,
   return table;
 }
 
-}  // namespace gustline::report
+}  // namespace gustline::geometry
