@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Formula.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "core/Prompt.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 #include "geometry/IntervalAreas.h"
 #include "geometry/Nudge.h"
 

@@ -3,9 +3,9 @@
 #include <sstream>
 #include <string>
 
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NativeFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/io/NativeFormat.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace {
 

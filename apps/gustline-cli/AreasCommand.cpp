@@ -8,8 +8,8 @@
 #include "CliCommand.h"
 #include "ProjectOptions.h"
 #include "core/Prompt.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 #include "geometry/IntervalAreas.h"
 #include "geometry/Nudge.h"
 

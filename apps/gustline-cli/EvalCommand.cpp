@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "CliCommand.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Formula.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::cli {
 namespace {

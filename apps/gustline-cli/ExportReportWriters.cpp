@@ -6,7 +6,7 @@
 #include "CliCommand.h"
 #include "ReportWriters.h"
 #include "core/FileSaveAs.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::cli {
 namespace {

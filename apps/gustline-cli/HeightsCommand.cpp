@@ -5,9 +5,9 @@
 
 #include "CliCommand.h"
 #include "ProjectOptions.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 #include "geometry/HeightList.h"
 
 namespace gustline::cli {

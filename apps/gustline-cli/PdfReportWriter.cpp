@@ -6,7 +6,7 @@
 
 #include "CliCommand.h"
 #include "ReportWriters.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 #include "report/qt/ReportPrinting.h"
 
 namespace gustline::cli {

@@ -5,7 +5,7 @@
 
 #include "core/Prompt.h"
 #include "core/StartUp.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/HeadlessReport.h"
 #include "ui/rules/CellRules.h"
 

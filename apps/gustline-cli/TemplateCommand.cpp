@@ -6,8 +6,8 @@
 
 #include "CliCommand.h"
 #include "ProjectOptions.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 #include "report/TemplateCatalog.h"
 
 namespace gustline::cli {

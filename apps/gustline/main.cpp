@@ -9,7 +9,7 @@
 #include "core/ProcessState.h"
 #include "core/StartUp.h"
 #include "core/qt/QtSettings.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 #include "report/ReportGenerator.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"

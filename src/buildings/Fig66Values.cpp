@@ -1,7 +1,7 @@
 #include "buildings/Fig66Values.h"
 
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/FieldCells.h"
 #include "ui/rules/FieldNumber.h"
 

@@ -1,7 +1,7 @@
 #include "core/CopyBookToBuffer.h"
 
 #include "core/Prompt.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline {
 

@@ -13,9 +13,9 @@
 #include "core/StartUp.h"
 #include "core/StatusSummary.h"
 #include "core/TextTools.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

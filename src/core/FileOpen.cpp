@@ -15,9 +15,9 @@
 #include "core/RecentFiles.h"
 #include "core/ReportHook.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NativeFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/io/NativeFormat.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

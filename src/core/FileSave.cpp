@@ -10,8 +10,8 @@
 #include "core/Prompt.h"
 #include "core/ReportHook.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 

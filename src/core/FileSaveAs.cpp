@@ -9,7 +9,7 @@
 #include "core/ProjectFilesExtensions.h"
 #include "core/Prompt.h"
 #include "core/ReportHook.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

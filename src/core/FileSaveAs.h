@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline {
 

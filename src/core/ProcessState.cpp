@@ -1,7 +1,7 @@
 #include "core/ProcessState.h"
 
 #include "core/TextTools.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline {
 

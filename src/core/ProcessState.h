@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "core/RecentFiles.h"
-#include "core/workbook/SheetSetup.h"
+#include "core/workbook/model/SheetSetup.h"
 
 namespace gustline {
 

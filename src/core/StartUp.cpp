@@ -16,8 +16,8 @@
 #include "core/StatusSummary.h"
 #include "core/TemplateFolder.h"
 #include "core/TextTools.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

@@ -8,7 +8,7 @@
 #include "core/ProcessState.h"
 #include "core/Settings.h"
 #include "core/TextTools.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

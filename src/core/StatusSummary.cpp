@@ -3,8 +3,8 @@
 #include <array>
 
 #include "core/ApplicationView.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/value/NumberFormat.h"
 
 namespace gustline {
 namespace {

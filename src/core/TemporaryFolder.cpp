@@ -8,7 +8,7 @@
 #include <system_error>
 #include <vector>
 
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

@@ -4,8 +4,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "core/workbook/Utf8.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Utf8.h"
 #include "geometry/SortLines.h"
 
 namespace gustline::geometry {

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::geometry {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "core/Prompt.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/NumberFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "geometry/ClosedPaths.h"
 #include "geometry/MiddlePivotSort.h"
 #include "geometry/Nudge.h"

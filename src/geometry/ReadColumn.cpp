@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::geometry {
 namespace {

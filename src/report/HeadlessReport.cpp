@@ -1,9 +1,9 @@
 #include "report/HeadlessReport.h"
 
 #include "core/StartUp.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::report {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Value.h"
 #include "geometry/HeightList.h"
 
 namespace gustline::report {

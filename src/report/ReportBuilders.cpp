@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "core/Prompt.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/NumberFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "geometry/HeightList.h"
 #include "geometry/IntervalAreas.h"
 #include "report/HeightTables.h"

@@ -5,11 +5,11 @@
 #include <cstdio>
 #include <vector>
 
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/CodePage1252.h"
-#include "core/workbook/Utf8.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/CodePage1252.h"
+#include "core/workbook/value/Utf8.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::report {
 namespace {

@@ -6,9 +6,9 @@
 
 #include "core/ApplicationView.h"
 #include "core/FileNames.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::report {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
 
 namespace gustline::report {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/TextCompare.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::report {
 namespace {

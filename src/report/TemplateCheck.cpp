@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "core/Prompt.h"
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/Value.h"
 #include "report/HeadlessReport.h"
 
 namespace gustline::report {

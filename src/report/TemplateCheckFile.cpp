@@ -7,8 +7,8 @@
 #include <iterator>
 #include <utility>
 
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/Value.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::report {
 namespace {

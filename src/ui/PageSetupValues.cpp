@@ -3,8 +3,8 @@
 #include <cmath>
 #include <cstdint>
 
-#include "core/workbook/NumberFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/FieldNumber.h"
 
 namespace gustline {

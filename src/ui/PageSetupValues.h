@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/workbook/SheetSetup.h"
+#include "core/workbook/model/SheetSetup.h"
 #include "ui/rules/FormField.h"
 
 namespace gustline::wb {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/FieldNumber.h"
 
 namespace gustline {

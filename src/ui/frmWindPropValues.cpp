@@ -1,6 +1,6 @@
 #include "ui/frmWindPropValues.h"
 
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
 #include "ui/rules/FieldCells.h"
 #include "ui/rules/FieldNumber.h"
 

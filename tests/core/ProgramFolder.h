@@ -11,7 +11,7 @@
 #include "core/Prompt.h"
 #include "core/ReportHook.h"
 #include "core/Settings.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::testing {
 

@@ -10,7 +10,7 @@
 #include "core/FileNames.h"
 #include "core/StartUp.h"
 #include "core/TemporaryFolder.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

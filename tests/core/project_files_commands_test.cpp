@@ -15,7 +15,7 @@
 #include "core/FileSaveAs.h"
 #include "core/FileTemplate.h"
 #include "core/StartUp.h"
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
 
 namespace gustline {
 namespace {

@@ -8,8 +8,8 @@
 #include "ProgramFolder.h"
 #include "core/FileExit.h"
 #include "core/StartUp.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

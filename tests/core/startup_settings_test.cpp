@@ -4,7 +4,7 @@
 #include <string>
 
 #include "core/StartupSettings.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "ProgramFolder.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
 
 namespace gustline {
 namespace {

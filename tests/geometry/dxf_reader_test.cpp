@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 #include "geometry/DxfReader.h"
 #include "geometry/SortLines.h"
 

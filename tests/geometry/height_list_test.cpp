@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 #include "geometry/HeightList.h"
 
 namespace gustline::geometry {

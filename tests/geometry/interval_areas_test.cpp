@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "core/Prompt.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 #include "geometry/HeightList.h"
 #include "geometry/IntervalAreas.h"
 #include "geometry/Nudge.h"

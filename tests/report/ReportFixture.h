@@ -11,8 +11,8 @@
 #include "core/Prompt.h"
 #include "core/Settings.h"
 #include "core/StartUp.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/ReportGenerator.h"
 #include "report/TemplateCatalog.h"
 

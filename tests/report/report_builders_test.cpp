@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "ReportFixture.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/Value.h"
 #include "geometry/HeightList.h"
 #include "report/ReportSelection.h"
 #include "report/TemplateCatalog.h"

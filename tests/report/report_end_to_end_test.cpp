@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "ReportFixture.h"
-#include "core/workbook/NamedCells.h"
+#include "core/workbook/model/NamedCells.h"
 #include "geometry/HeightList.h"
 
 namespace gustline::report {

@@ -7,7 +7,7 @@
 
 #include "ReportFixture.h"
 #include "core/FileNames.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 #include "geometry/HeightList.h"
 
 namespace gustline::report {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/workbook/Utf8.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Utf8.h"
 #include "report/ReportJson.h"
 
 namespace gustline::report {

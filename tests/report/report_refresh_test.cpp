@@ -7,7 +7,7 @@
 #include "TempFolder.h"
 #include "core/ApplicationView.h"
 #include "core/FileNames.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/ReportRefresh.h"
 
 namespace gustline::report {

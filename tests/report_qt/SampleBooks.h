@@ -3,8 +3,8 @@
 #include <memory>
 #include <string_view>
 
-#include "core/workbook/CellStyle.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/CellStyle.h"
 
 namespace gustline::report::testing {
 

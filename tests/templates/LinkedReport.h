@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "BookAssembler.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::templates::testing {
 

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "core/Prompt.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 #include "ui/rules/CellRules.h"
 
 namespace gustline::rules {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 #include "ui/rules/FieldCells.h"
 
 namespace gustline::rules {

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::wb {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/workbook/CellAddress.h"
+#include "core/workbook/address/CellAddress.h"
 
 namespace gustline::wb {
 namespace {

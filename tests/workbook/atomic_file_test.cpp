@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "TempFolder.h"
-#include "core/workbook/AtomicFile.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/io/AtomicFile.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::wb {
 namespace {

@@ -12,7 +12,7 @@
 #include <tuple>
 
 #include "TempFolder.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

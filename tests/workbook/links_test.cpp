@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "core/workbook/Formula.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "core/workbook/Evaluator.h"
-#include "core/workbook/Formula.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Evaluator.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

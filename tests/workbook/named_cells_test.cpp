@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "ErrorNumber.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

@@ -13,10 +13,10 @@
 #include <tuple>
 #include <vector>
 
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Formula.h"
-#include "core/workbook/NativeFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/io/NativeFormat.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::wb {
 namespace {

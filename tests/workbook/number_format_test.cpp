@@ -3,7 +3,7 @@
 #include <limits>
 #include <string>
 
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/value/NumberFormat.h"
 
 namespace gustline::wb {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "core/workbook/BookRegistry.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/BookRegistry.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

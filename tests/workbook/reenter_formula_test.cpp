@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "core/workbook/Formula.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

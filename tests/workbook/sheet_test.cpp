@@ -1,8 +1,8 @@
-#include "core/workbook/Sheet.h"
+#include "core/workbook/model/Sheet.h"
 
 #include <gtest/gtest.h>
 
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::wb {
 namespace {

@@ -3,8 +3,8 @@
 #include <sstream>
 #include <string>
 
-#include "core/workbook/TextFormat.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/io/TextFormat.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

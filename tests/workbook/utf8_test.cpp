@@ -1,10 +1,10 @@
-#include "core/workbook/Utf8.h"
+#include "core/workbook/value/Utf8.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "core/workbook/CodePage1252.h"
+#include "core/workbook/value/CodePage1252.h"
 
 namespace gustline::wb {
 namespace {

@@ -1,4 +1,4 @@
-#include "core/workbook/Value.h"
+#include "core/workbook/value/Value.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "ErrorNumber.h"
-#include "core/workbook/BookRegistry.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/BookRegistry.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

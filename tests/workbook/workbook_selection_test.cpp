@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "ErrorNumber.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::wb {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "ErrorNumber.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::wb {
 namespace {

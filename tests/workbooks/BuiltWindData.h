@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Value.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/Value.h"
 
 namespace gustline::books::testing {
 

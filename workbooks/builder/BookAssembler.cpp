@@ -6,10 +6,10 @@
 
 #include "FormulaCheck.h"
 #include "SheetWords.h"
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Formula.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/formula/Formula.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline::books {
 namespace {

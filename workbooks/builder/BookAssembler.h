@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "SourceText.h"
-#include "core/workbook/CellAddress.h"
-#include "core/workbook/CellStyle.h"
+#include "core/workbook/address/CellAddress.h"
+#include "core/workbook/value/CellStyle.h"
 
 namespace gustline::wb {
 class Workbook;

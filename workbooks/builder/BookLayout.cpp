@@ -4,7 +4,7 @@
 #include "PrintSetupKeys.h"
 #include "SheetWords.h"
 #include "StyleChange.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::books {
 namespace {

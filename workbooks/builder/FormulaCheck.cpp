@@ -1,8 +1,8 @@
 #include "FormulaCheck.h"
 
-#include "core/workbook/BookRegistry.h"
-#include "core/workbook/FormulaAst.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/formula/FormulaAst.h"
+#include "core/workbook/model/BookRegistry.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::books {
 namespace {

@@ -1,6 +1,6 @@
 #include "PrintSetupKeys.h"
 
-#include "core/workbook/CellAddress.h"
+#include "core/workbook/address/CellAddress.h"
 
 namespace gustline::books {
 namespace {

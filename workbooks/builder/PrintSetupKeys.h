@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "SourceText.h"
-#include "core/workbook/SheetSetup.h"
+#include "core/workbook/model/SheetSetup.h"
 
 namespace gustline::books {
 

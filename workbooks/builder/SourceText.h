@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/workbook/Utf8.h"
+#include "core/workbook/value/Utf8.h"
 
 namespace gustline::books {
 

@@ -2,7 +2,7 @@
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig66.h"
 

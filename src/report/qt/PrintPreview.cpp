@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/workbook/Sheet.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Sheet.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/qt/SheetRenderer.h"
 #include "report/qt/ui_PrintPreview.h"
 

@@ -11,10 +11,10 @@
 #include <QPrinterInfo>
 #include <cmath>
 
-#include "core/workbook/AtomicFile.h"
-#include "core/workbook/FacilityError.h"
-#include "core/workbook/Sheet.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/io/AtomicFile.h"
+#include "core/workbook/model/Sheet.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
 #include "report/qt/SheetRenderer.h"
 
 namespace gustline::report {

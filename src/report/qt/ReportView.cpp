@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/workbook/Sheet.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Sheet.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::report {
 namespace {

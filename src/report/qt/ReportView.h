@@ -3,7 +3,7 @@
 #include <QAbstractScrollArea>
 #include <optional>
 
-#include "core/workbook/CellAddress.h"
+#include "core/workbook/address/CellAddress.h"
 #include "report/qt/SheetRenderer.h"
 
 namespace gustline::wb {

@@ -10,10 +10,10 @@
 #include <cctype>
 #include <cmath>
 
-#include "core/workbook/CellStyle.h"
-#include "core/workbook/NumberFormat.h"
-#include "core/workbook/Sheet.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/Sheet.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/CellStyle.h"
+#include "core/workbook/value/NumberFormat.h"
 
 namespace gustline::report {
 namespace {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/workbook/CellAddress.h"
+#include "core/workbook/address/CellAddress.h"
 
 class QPainter;
 

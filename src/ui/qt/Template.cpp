@@ -5,7 +5,7 @@
 #include "core/FileTemplate.h"
 #include "core/ProcessState.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 #include "ui/rules/qt/FormFields.h"
 #include "ui_Template.h"
 

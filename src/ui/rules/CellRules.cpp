@@ -5,8 +5,8 @@
 
 #include "buildings/Fig610Values.h"
 #include "buildings/Fig66Values.h"
-#include "core/workbook/NumberFormat.h"
-#include "core/workbook/TextCompare.h"
+#include "core/workbook/value/NumberFormat.h"
+#include "core/workbook/value/TextCompare.h"
 #include "ui/frmWindPropValues.h"
 #include "ui/rules/CheckRule.h"
 #include "ui/rules/FieldNumber.h"

@@ -8,7 +8,7 @@
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/TextTools.h"
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/FieldNumber.h"
 
 namespace gustline::rules {

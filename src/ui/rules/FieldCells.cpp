@@ -1,7 +1,7 @@
 #include "ui/rules/FieldCells.h"
 
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/NumberFormat.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/value/NumberFormat.h"
 #include "ui/rules/FieldNumber.h"
 
 namespace gustline::rules {

@@ -13,8 +13,8 @@
 #include "core/Prompt.h"
 #include "core/ReportHook.h"
 #include "core/Settings.h"
-#include "core/workbook/NamedCells.h"
-#include "core/workbook/Workbook.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
 
 namespace gustline::testing {
 

@@ -4,7 +4,7 @@
 #include "core/ProcessState.h"
 #include "core/ReportHook.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/FacilityError.h"
+#include "core/workbook/value/FacilityError.h"
 
 namespace gustline {
 

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "core/workbook/formula/FormulaAst.h"
+#include "core/workbook/model/Sheet.h"
+#include "core/workbook/value/Value.h"
+
+namespace gustline::wb {
+
+// A rectangle of cells on a sheet of an open book, as references evaluate.
+struct RangeRef {
+  Workbook* book = nullptr;
+  const Sheet* sheet = nullptr;
+  Area area;
+  bool IsSingleCell() const {
+    return area.firstRow == area.lastRow && area.firstCol == area.lastCol;
+  }
+};
+
+// What a node yields: a value, or a reference for the functions that take ranges.
+struct Operand {
+  Value value;
+  RangeRef ref;
+  bool isRef = false;
+
+  static Operand Of(Value value) { return Operand{std::move(value), {}, false}; }
+  static Operand Of(const RangeRef& ref) { return Operand{{}, ref, true}; }
+};
+
+// The value of a cell of a range's sheet; an unwritten cell is empty.
+const Value& ValueAt(const Sheet& sheet, int row, int col);
+
+// Sees every cell that an evaluation reads. Recalculation sets one while it orders a
+// circular group of cells by the reads that actually happen.
+class CellReadObserver {
+ public:
+  virtual ~CellReadObserver() = default;
+  virtual void Read(const Sheet& sheet, int row, int col) = 0;
+};
+// The observer of this thread's evaluations; null when none.
+CellReadObserver*& CurrentCellReadObserver();
+
+// Conversions of the language: each gives the error value that the context yields.
+std::optional<ErrorCode> ToNumber(const Value& value, double& number);
+std::optional<ErrorCode> ToText(const Value& value, std::string& text);
+std::optional<ErrorCode> ToBoolean(const Value& value, bool& flag);
+// A number as a spreadsheet shows it in General form: up to 15 significant digits.
+std::string NumberToText(double number);
+// Numbers < texts < booleans; texts without regard to case; empty as 0, "" or FALSE.
+// Neither value is an error.
+int CompareValues(const Value& a, const Value& b);
+// A number result, or #NUM! when it is not finite.
+Value NumberResult(double number);
+
+// Walks the nodes of one formula for one host cell.
+class Evaluator {
+ public:
+  Evaluator(const Formula& formula, const FormulaHost& host, int nameDepth = 0)
+      : formula_(formula), host_(host), nameDepth_(nameDepth) {}
+
+  const Formula& GetFormula() const { return formula_; }
+  const FormulaHost& Host() const { return host_; }
+
+  Operand Eval(std::int32_t index);
+  // The node's single value: a range in a scalar context intersects the host's row or column.
+  Value Scalar(std::int32_t index);
+  Value Deref(const Operand& operand) const;
+
+ private:
+  Operand EvalRef(const RefTarget& ref);
+  Operand EvalName(const NameTarget& name);
+  Operand EvalUnary(const Formula::Node& node);
+  Operand EvalBinary(const Formula::Node& node);
+  Operand EvalRange(const Formula::Node& node);
+
+  const Formula& formula_;
+  const FormulaHost& host_;
+  int nameDepth_;
+};
+
+// The functions of the language; each evaluates only the arguments it needs.
+Operand CallFunction(Evaluator& ev, const Formula::Node& node);
+Operand CallLogicFunction(Evaluator& ev, const Formula::Node& node);
+Operand CallLookupFunction(Evaluator& ev, const Formula::Node& node);
+Operand CallMathFunction(Evaluator& ev, const Formula::Node& node);
+Operand CallTextFunction(Evaluator& ev, const Formula::Node& node);
+
+}  // namespace gustline::wb

@@ -1,0 +1,80 @@
+#include <cmath>
+
+#include "core/workbook/formula/Evaluator.h"
+
+namespace gustline::wb {
+namespace {
+
+Operand ErrorOperand(ErrorCode code) {
+  return Operand::Of(Value::Error(code));
+}
+
+// AND and OR: ranges give their numbers and booleans, direct texts are an error.
+Operand Logical(Evaluator& ev, const Formula::Node& node, bool isAnd) {
+  const Formula& f = ev.GetFormula();
+  bool result = isAnd;
+  bool any = false;
+  const auto take = [&](bool flag) {
+    any = true;
+    result = isAnd ? (result && flag) : (result || flag);
+  };
+  for (int i = 0; i < node.count; ++i) {
+    const Operand arg = ev.Eval(f.KidIndex(node, i));
+    if (arg.isRef) {
+      const Area& area = arg.ref.area;
+      for (int row = area.firstRow; row <= area.lastRow; ++row) {
+        for (int col = area.firstCol; col <= area.lastCol; ++col) {
+          const Value& value = ValueAt(*arg.ref.sheet, row, col);
+          if (value.IsError()) return Operand::Of(value);
+          if (value.IsNumber() || value.IsBoolean()) take(value.AsBoolean());
+        }
+      }
+      continue;
+    }
+    const Value& value = arg.value;
+    if (value.IsError()) return arg;
+    if (value.IsText()) return ErrorOperand(ErrorCode::Value);
+    if (value.IsNumber() || value.IsBoolean()) take(value.AsBoolean());
+  }
+  if (!any) return ErrorOperand(ErrorCode::Value);
+  return Operand::Of(Value::Boolean(result));
+}
+
+}  // namespace
+
+Operand CallLogicFunction(Evaluator& ev, const Formula::Node& node) {
+  const Formula& f = ev.GetFormula();
+  switch (static_cast<FunctionId>(node.aux)) {
+    case FunctionId::If: {
+      bool condition = false;
+      if (auto error = ToBoolean(ev.Scalar(f.KidIndex(node, 0)), condition))
+        return ErrorOperand(*error);
+      if (condition) return ev.Eval(f.KidIndex(node, 1));
+      if (node.count > 2) return ev.Eval(f.KidIndex(node, 2));
+      return Operand::Of(Value::Boolean(false));
+    }
+    case FunctionId::Choose: {
+      double index = 0;
+      if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 0)), index)) return ErrorOperand(*error);
+      index = std::trunc(index);
+      if (!(index >= 1 && index < node.count)) return ErrorOperand(ErrorCode::Value);
+      return ev.Eval(f.KidIndex(node, static_cast<int>(index)));
+    }
+    case FunctionId::And:
+      return Logical(ev, node, true);
+    case FunctionId::Or:
+      return Logical(ev, node, false);
+    case FunctionId::IsNumber:
+      return Operand::Of(Value::Boolean(ev.Scalar(f.KidIndex(node, 0)).IsNumber()));
+    case FunctionId::IsText:
+      return Operand::Of(Value::Boolean(ev.Scalar(f.KidIndex(node, 0)).IsText()));
+    case FunctionId::IsNa: {
+      const Value value = ev.Scalar(f.KidIndex(node, 0));
+      return Operand::Of(Value::Boolean(value.IsError() && value.AsError() == ErrorCode::NA));
+    }
+    default:
+      return ErrorOperand(ErrorCode::Value);
+  }
+}
+
+}  // namespace gustline::wb

@@ -1,0 +1,158 @@
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <string>
+
+#include "core/workbook/formula/Evaluator.h"
+
+namespace gustline::wb {
+namespace {
+
+Operand ErrorOperand(ErrorCode code) {
+  return Operand::Of(Value::Error(code));
+}
+
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+// Rounds half away from zero on the value's 15-significant-digit decimal form, so that
+// 2.675 rounds to 2.68 as it shows, not by its binary neighbour 2.67499999...
+double RoundDecimal(double number, int digits) {
+  if (number == 0 || !std::isfinite(number)) return number;
+  // Away from a tie the binary value rounds the same way as its decimal form: scale,
+  // round and scale back exactly.
+  if (digits >= -15 && digits <= 15) {
+    const double scale = kPowersOfTen[std::abs(digits)];
+    const double scaled = std::fabs(digits >= 0 ? number * scale : number / scale);
+    const double fraction = scaled - std::floor(scaled);
+    if (scaled < 1e9 && std::fabs(fraction - 0.5) > 1e-5) {
+      const double whole = fraction > 0.5 ? std::floor(scaled) + 1 : std::floor(scaled);
+      const double magnitude = digits >= 0 ? whole / scale : whole * scale;
+      return number < 0 ? -magnitude : magnitude;
+    }
+  }
+  char buffer[40];
+  std::snprintf(buffer, sizeof buffer, "%.14e", std::fabs(number));
+  std::string mantissa;  // 15 digits, the first before the point
+  const char* p = buffer;
+  for (; *p != 'e'; ++p) {
+    if (*p != '.') mantissa += *p;
+  }
+  int exponent = std::atoi(p + 1);
+  const int keep = exponent + 1 + digits;  // digits kept from the first
+  if (keep >= static_cast<int>(mantissa.size()))
+    return std::strtod(buffer, nullptr) * (number < 0 ? -1 : 1);
+  if (keep < 0) return 0;
+  std::string kept = mantissa.substr(0, static_cast<std::size_t>(keep));
+  if (mantissa[static_cast<std::size_t>(keep)] >= '5') {
+    int i = keep - 1;
+    for (; i >= 0 && kept[static_cast<std::size_t>(i)] == '9'; --i)
+      kept[static_cast<std::size_t>(i)] = '0';
+    if (i >= 0) {
+      ++kept[static_cast<std::size_t>(i)];
+    } else {
+      kept.insert(kept.begin(), '1');
+      ++exponent;
+    }
+  }
+  if (kept.empty()) return 0;
+  const std::string text = "0." + kept + "e" + std::to_string(exponent + 1);
+  const double magnitude = std::strtod(text.c_str(), nullptr);
+  return number < 0 ? -magnitude : magnitude;
+}
+
+// Days since 1899-12-30 of a civil date.
+double SerialDay(int year, int month, int day) {
+  year -= month <= 2 ? 1 : 0;
+  const int era = (year >= 0 ? year : year - 399) / 400;
+  const int yearOfEra = year - era * 400;
+  const int dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
+  const int dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
+  const double daysFrom1970 = era * 146097.0 + dayOfEra - 719468;
+  return daysFrom1970 + 25569;
+}
+
+double Now() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  const double seconds = local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec;
+  return SerialDay(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) + seconds / 86400;
+}
+
+// SUM, MAX and MIN: ranges give their numbers only, direct arguments convert.
+Operand Aggregate(Evaluator& ev, const Formula::Node& node, FunctionId id) {
+  const Formula& f = ev.GetFormula();
+  double sum = 0;
+  double best = 0;
+  bool any = false;
+  const auto take = [&](double number) {
+    sum += number;
+    if (!any || (id == FunctionId::Max ? number > best : number < best)) best = number;
+    any = true;
+  };
+  for (int i = 0; i < node.count; ++i) {
+    const Operand arg = ev.Eval(f.KidIndex(node, i));
+    if (arg.isRef) {
+      const Area& area = arg.ref.area;
+      for (int row = area.firstRow; row <= area.lastRow; ++row) {
+        for (int col = area.firstCol; col <= area.lastCol; ++col) {
+          const Value& value = ValueAt(*arg.ref.sheet, row, col);
+          if (value.IsError()) return Operand::Of(value);
+          if (value.IsNumber()) take(value.AsNumber());
+        }
+      }
+      continue;
+    }
+    if (arg.value.IsEmpty()) continue;
+    double number = 0;
+    if (auto error = ToNumber(arg.value, number)) return ErrorOperand(*error);
+    take(number);
+  }
+  return Operand::Of(NumberResult(id == FunctionId::Sum ? sum : best));
+}
+
+}  // namespace
+
+Operand CallMathFunction(Evaluator& ev, const Formula::Node& node) {
+  const auto id = static_cast<FunctionId>(node.aux);
+  switch (id) {
+    case FunctionId::Sum:
+    case FunctionId::Max:
+    case FunctionId::Min:
+      return Aggregate(ev, node, id);
+    case FunctionId::Now:
+      return Operand::Of(Value::Number(Now()));
+    default:
+      break;
+  }
+  const Formula& f = ev.GetFormula();
+  double x = 0;
+  if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 0)), x)) return ErrorOperand(*error);
+  switch (id) {
+    case FunctionId::Abs:
+      return Operand::Of(Value::Number(std::fabs(x)));
+    case FunctionId::Sign:
+      return Operand::Of(Value::Number(x > 0 ? 1 : (x < 0 ? -1 : 0)));
+    case FunctionId::Ln:
+      if (x <= 0) return ErrorOperand(ErrorCode::Num);
+      return Operand::Of(NumberResult(std::log(x)));
+    case FunctionId::Exp:
+      return Operand::Of(NumberResult(std::exp(x)));
+    case FunctionId::Sqrt:
+      if (x < 0) return ErrorOperand(ErrorCode::Num);
+      return Operand::Of(Value::Number(std::sqrt(x)));
+    case FunctionId::Round: {
+      double digits = 0;
+      if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 1)), digits))
+        return ErrorOperand(*error);
+      digits = std::trunc(std::fmax(-400.0, std::fmin(400.0, digits)));
+      return Operand::Of(NumberResult(RoundDecimal(x, static_cast<int>(digits))));
+    }
+    default:
+      return ErrorOperand(ErrorCode::Value);
+  }
+}
+
+}  // namespace gustline::wb
