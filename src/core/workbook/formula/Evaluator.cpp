@@ -16,10 +16,6 @@ namespace {
 // Names that refer to names deeper than this are taken as circular.
 constexpr int kMaxNameDepth = 32;
 
-Operand ErrorOperand(ErrorCode code) {
-  return Operand::Of(Value::Error(code));
-}
-
 int KindRank(Value::Kind kind) {
   switch (kind) {
     case Value::Kind::Number:
@@ -181,7 +177,7 @@ Operand Evaluator::Eval(std::int32_t index) {
     case Formula::Kind::Paren:
       return Eval(formula_.KidIndex(node, 0));
     case Formula::Kind::Call:
-      return CallFunction(*this, node);
+      return FunctionAt(node.aux).body(*this, node);
     case Formula::Kind::Unknown:
       return ErrorOperand(ErrorCode::Name);
     case Formula::Kind::Missing:
@@ -341,28 +337,6 @@ Operand Evaluator::EvalRange(const Formula::Node& node) {
   range.area = Area{std::min(a.firstRow, b.firstRow), std::min(a.firstCol, b.firstCol),
                     std::max(a.lastRow, b.lastRow), std::max(a.lastCol, b.lastCol)};
   return Operand::Of(range);
-}
-
-Operand CallFunction(Evaluator& ev, const Formula::Node& node) {
-  switch (static_cast<FunctionId>(node.aux)) {
-    case FunctionId::If:
-    case FunctionId::Choose:
-    case FunctionId::And:
-    case FunctionId::Or:
-    case FunctionId::IsNumber:
-    case FunctionId::IsText:
-    case FunctionId::IsNa:
-      return CallLogicFunction(ev, node);
-    case FunctionId::Index:
-    case FunctionId::Match:
-    case FunctionId::VLookup:
-      return CallLookupFunction(ev, node);
-    case FunctionId::Code:
-    case FunctionId::Concatenate:
-      return CallTextFunction(ev, node);
-    default:
-      return CallMathFunction(ev, node);
-  }
 }
 
 Value Evaluate(const Formula& formula, const FormulaHost& host) {

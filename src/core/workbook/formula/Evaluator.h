@@ -29,6 +29,10 @@ struct Operand {
   static Operand Of(const RangeRef& ref) { return Operand{{}, ref, true}; }
 };
 
+inline Operand ErrorOperand(ErrorCode code) {
+  return Operand::Of(Value::Error(code));
+}
+
 // The value of a cell of a range's sheet; an unwritten cell is empty.
 const Value& ValueAt(const Sheet& sheet, int row, int col);
 
@@ -79,12 +83,5 @@ class Evaluator {
   const FormulaHost& host_;
   int nameDepth_;
 };
-
-// The functions of the language; each evaluates only the arguments it needs.
-Operand CallFunction(Evaluator& ev, const Formula::Node& node);
-Operand CallLogicFunction(Evaluator& ev, const Formula::Node& node);
-Operand CallLookupFunction(Evaluator& ev, const Formula::Node& node);
-Operand CallMathFunction(Evaluator& ev, const Formula::Node& node);
-Operand CallTextFunction(Evaluator& ev, const Formula::Node& node);
 
 }  // namespace gustline::wb

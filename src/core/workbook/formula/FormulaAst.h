@@ -2,37 +2,12 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/workbook/formula/Formula.h"
 
 namespace gustline::wb {
-
-// The functions of the formula language.
-enum class FunctionId : std::uint8_t {
-  If,
-  Choose,
-  And,
-  Or,
-  Index,
-  Match,
-  VLookup,
-  Abs,
-  Sign,
-  Ln,
-  Exp,
-  Sqrt,
-  Round,
-  Max,
-  Min,
-  Sum,
-  IsNumber,
-  IsText,
-  IsNa,
-  Code,
-  Now,
-  Concatenate,
-};
 
 enum class BinaryOp : std::uint8_t {
   Add,
@@ -102,7 +77,7 @@ class Formula {
     Unary,    // aux: UnaryOp; one kid
     Binary,   // aux: BinaryOp; two kids
     Paren,    // one kid
-    Call,     // aux: FunctionId
+    Call,     // aux: the function's index in the function table
     Unknown,  // an unknown function: aux indexes texts (its name as written)
     Missing,  // an omitted argument
   };
@@ -131,16 +106,23 @@ class Formula {
   }
 };
 
-// The spelling of a function and the bounds of its argument count.
+class Evaluator;
+struct Operand;
+
+// The body of a function: it evaluates only the arguments it needs.
+using FunctionBody = Operand (*)(Evaluator& ev, const Formula::Node& node);
+
+// A function of the language: its spelling, the bounds of its argument count and its body.
 struct FunctionInfo {
-  const char* name;
-  FunctionId id;
+  std::string_view name;
   int minArgs;
   int maxArgs;
+  FunctionBody body;
 };
 
-// The function of a name, without regard to case; nullptr when the language has none.
-const FunctionInfo* FindFunction(std::string_view name);
-const FunctionInfo& GetFunctionInfo(FunctionId id);
+// The index in the function table of the function of a name, without regard to case; -1 when
+// the language has none.
+std::int32_t FindFunction(std::string_view name);
+const FunctionInfo& FunctionAt(std::int32_t index);
 
 }  // namespace gustline::wb

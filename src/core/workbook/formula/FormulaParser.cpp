@@ -399,11 +399,12 @@ class Parser {
       }
     }
     Node node{Kind::Call};
-    if (const FunctionInfo* info = FindFunction(name)) {
+    if (const std::int32_t function = FindFunction(name); function >= 0) {
+      const FunctionInfo& info = FunctionAt(function);
       const int count = static_cast<int>(args.size());
-      if (count < info->minArgs || count > info->maxArgs)
-        Fail(std::string("Wrong number of arguments to ") + info->name);
-      node.aux = static_cast<std::int32_t>(info->id);
+      if (count < info.minArgs || count > info.maxArgs)
+        Fail("Wrong number of arguments to " + std::string(info.name));
+      node.aux = function;
     } else {
       if (args.size() > 255) Fail("Too many arguments");
       node.kind = Kind::Unknown;

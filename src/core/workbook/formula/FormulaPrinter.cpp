@@ -99,8 +99,9 @@ class Printer {
         break;
       case Kind::Call:
       case Kind::Unknown:
-        out_ += node.kind == Kind::Call ? GetFunctionInfo(static_cast<FunctionId>(node.aux)).name
-                                        : f_.texts[static_cast<std::size_t>(node.aux)];
+        out_ += node.kind == Kind::Call
+                    ? FunctionAt(node.aux).name
+                    : std::string_view(f_.texts[static_cast<std::size_t>(node.aux)]);
         out_ += '(';
         for (int i = 0; i < node.count; ++i) {
           if (i > 0) out_ += ',';

@@ -1,13 +1,9 @@
 #include <cmath>
 
-#include "core/workbook/formula/Evaluator.h"
+#include "core/workbook/formula/Functions.h"
 
-namespace gustline::wb {
+namespace gustline::wb::functions {
 namespace {
-
-Operand ErrorOperand(ErrorCode code) {
-  return Operand::Of(Value::Error(code));
-}
 
 // AND and OR: ranges give their numbers and booleans, direct texts are an error.
 Operand Logical(Evaluator& ev, const Formula::Node& node, bool isAnd) {
@@ -42,39 +38,44 @@ Operand Logical(Evaluator& ev, const Formula::Node& node, bool isAnd) {
 
 }  // namespace
 
-Operand CallLogicFunction(Evaluator& ev, const Formula::Node& node) {
-  const Formula& f = ev.GetFormula();
-  switch (static_cast<FunctionId>(node.aux)) {
-    case FunctionId::If: {
-      bool condition = false;
-      if (auto error = ToBoolean(ev.Scalar(f.KidIndex(node, 0)), condition))
-        return ErrorOperand(*error);
-      if (condition) return ev.Eval(f.KidIndex(node, 1));
-      if (node.count > 2) return ev.Eval(f.KidIndex(node, 2));
-      return Operand::Of(Value::Boolean(false));
-    }
-    case FunctionId::Choose: {
-      double index = 0;
-      if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 0)), index)) return ErrorOperand(*error);
-      index = std::trunc(index);
-      if (!(index >= 1 && index < node.count)) return ErrorOperand(ErrorCode::Value);
-      return ev.Eval(f.KidIndex(node, static_cast<int>(index)));
-    }
-    case FunctionId::And:
-      return Logical(ev, node, true);
-    case FunctionId::Or:
-      return Logical(ev, node, false);
-    case FunctionId::IsNumber:
-      return Operand::Of(Value::Boolean(ev.Scalar(f.KidIndex(node, 0)).IsNumber()));
-    case FunctionId::IsText:
-      return Operand::Of(Value::Boolean(ev.Scalar(f.KidIndex(node, 0)).IsText()));
-    case FunctionId::IsNa: {
-      const Value value = ev.Scalar(f.KidIndex(node, 0));
-      return Operand::Of(Value::Boolean(value.IsError() && value.AsError() == ErrorCode::NA));
-    }
-    default:
-      return ErrorOperand(ErrorCode::Value);
-  }
+Operand And(Evaluator& ev, const Formula::Node& node) {
+  return Logical(ev, node, true);
 }
 
-}  // namespace gustline::wb
+Operand Or(Evaluator& ev, const Formula::Node& node) {
+  return Logical(ev, node, false);
+}
+
+Operand If(Evaluator& ev, const Formula::Node& node) {
+  const Formula& f = ev.GetFormula();
+  bool condition = false;
+  if (auto error = ToBoolean(ev.Scalar(f.KidIndex(node, 0)), condition))
+    return ErrorOperand(*error);
+  if (condition) return ev.Eval(f.KidIndex(node, 1));
+  if (node.count > 2) return ev.Eval(f.KidIndex(node, 2));
+  return Operand::Of(Value::Boolean(false));
+}
+
+Operand Choose(Evaluator& ev, const Formula::Node& node) {
+  const Formula& f = ev.GetFormula();
+  double index = 0;
+  if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 0)), index)) return ErrorOperand(*error);
+  index = std::trunc(index);
+  if (!(index >= 1 && index < node.count)) return ErrorOperand(ErrorCode::Value);
+  return ev.Eval(f.KidIndex(node, static_cast<int>(index)));
+}
+
+Operand IsNumber(Evaluator& ev, const Formula::Node& node) {
+  return Operand::Of(Value::Boolean(ev.Scalar(ev.GetFormula().KidIndex(node, 0)).IsNumber()));
+}
+
+Operand IsText(Evaluator& ev, const Formula::Node& node) {
+  return Operand::Of(Value::Boolean(ev.Scalar(ev.GetFormula().KidIndex(node, 0)).IsText()));
+}
+
+Operand IsNa(Evaluator& ev, const Formula::Node& node) {
+  const Value value = ev.Scalar(ev.GetFormula().KidIndex(node, 0));
+  return Operand::Of(Value::Boolean(value.IsError() && value.AsError() == ErrorCode::NA));
+}
+
+}  // namespace gustline::wb::functions

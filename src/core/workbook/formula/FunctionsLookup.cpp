@@ -1,13 +1,9 @@
 #include <cmath>
 
-#include "core/workbook/formula/Evaluator.h"
+#include "core/workbook/formula/Functions.h"
 
-namespace gustline::wb {
+namespace gustline::wb::functions {
 namespace {
-
-Operand ErrorOperand(ErrorCode code) {
-  return Operand::Of(Value::Error(code));
-}
 
 bool Comparable(const Value& a, const Value& b) {
   return a.GetKind() == b.GetKind() && !a.IsEmpty() && !a.IsError();
@@ -51,6 +47,8 @@ std::optional<Operand> NeedRange(const Operand& arg, ErrorCode otherwise) {
   if (arg.isRef) return std::nullopt;
   return arg.value.IsError() ? Operand::Of(arg.value) : ErrorOperand(otherwise);
 }
+
+}  // namespace
 
 Operand Match(Evaluator& ev, const Formula::Node& node) {
   const Formula& f = ev.GetFormula();
@@ -129,17 +127,4 @@ Operand Index(Evaluator& ev, const Formula::Node& node) {
   return Operand::Of(result);
 }
 
-}  // namespace
-
-Operand CallLookupFunction(Evaluator& ev, const Formula::Node& node) {
-  switch (static_cast<FunctionId>(node.aux)) {
-    case FunctionId::Match:
-      return Match(ev, node);
-    case FunctionId::VLookup:
-      return VLookup(ev, node);
-    default:
-      return Index(ev, node);
-  }
-}
-
-}  // namespace gustline::wb
+}  // namespace gustline::wb::functions

@@ -4,14 +4,10 @@
 #include <ctime>
 #include <string>
 
-#include "core/workbook/formula/Evaluator.h"
+#include "core/workbook/formula/Functions.h"
 
-namespace gustline::wb {
+namespace gustline::wb::functions {
 namespace {
-
-Operand ErrorOperand(ErrorCode code) {
-  return Operand::Of(Value::Error(code));
-}
 
 constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
@@ -73,7 +69,7 @@ double SerialDay(int year, int month, int day) {
   return daysFrom1970 + 25569;
 }
 
-double Now() {
+double NowSerial() {
   const std::time_t now = std::time(nullptr);
   std::tm local{};
   localtime_r(&now, &local);
@@ -81,15 +77,17 @@ double Now() {
   return SerialDay(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday) + seconds / 86400;
 }
 
+enum class Fold { Sum, Max, Min };
+
 // SUM, MAX and MIN: ranges give their numbers only, direct arguments convert.
-Operand Aggregate(Evaluator& ev, const Formula::Node& node, FunctionId id) {
+Operand Aggregate(Evaluator& ev, const Formula::Node& node, Fold fold) {
   const Formula& f = ev.GetFormula();
   double sum = 0;
   double best = 0;
   bool any = false;
   const auto take = [&](double number) {
     sum += number;
-    if (!any || (id == FunctionId::Max ? number > best : number < best)) best = number;
+    if (!any || (fold == Fold::Max ? number > best : number < best)) best = number;
     any = true;
   };
   for (int i = 0; i < node.count; ++i) {
@@ -110,49 +108,71 @@ Operand Aggregate(Evaluator& ev, const Formula::Node& node, FunctionId id) {
     if (auto error = ToNumber(arg.value, number)) return ErrorOperand(*error);
     take(number);
   }
-  return Operand::Of(NumberResult(id == FunctionId::Sum ? sum : best));
+  return Operand::Of(NumberResult(fold == Fold::Sum ? sum : best));
+}
+
+// A function of the number its first argument converts to; the argument's error otherwise.
+template <typename Body>
+Operand OfNumber(Evaluator& ev, const Formula::Node& node, Body body) {
+  double x = 0;
+  if (auto error = ToNumber(ev.Scalar(ev.GetFormula().KidIndex(node, 0)), x))
+    return ErrorOperand(*error);
+  return body(x);
 }
 
 }  // namespace
 
-Operand CallMathFunction(Evaluator& ev, const Formula::Node& node) {
-  const auto id = static_cast<FunctionId>(node.aux);
-  switch (id) {
-    case FunctionId::Sum:
-    case FunctionId::Max:
-    case FunctionId::Min:
-      return Aggregate(ev, node, id);
-    case FunctionId::Now:
-      return Operand::Of(Value::Number(Now()));
-    default:
-      break;
-  }
-  const Formula& f = ev.GetFormula();
-  double x = 0;
-  if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 0)), x)) return ErrorOperand(*error);
-  switch (id) {
-    case FunctionId::Abs:
-      return Operand::Of(Value::Number(std::fabs(x)));
-    case FunctionId::Sign:
-      return Operand::Of(Value::Number(x > 0 ? 1 : (x < 0 ? -1 : 0)));
-    case FunctionId::Ln:
-      if (x <= 0) return ErrorOperand(ErrorCode::Num);
-      return Operand::Of(NumberResult(std::log(x)));
-    case FunctionId::Exp:
-      return Operand::Of(NumberResult(std::exp(x)));
-    case FunctionId::Sqrt:
-      if (x < 0) return ErrorOperand(ErrorCode::Num);
-      return Operand::Of(Value::Number(std::sqrt(x)));
-    case FunctionId::Round: {
-      double digits = 0;
-      if (auto error = ToNumber(ev.Scalar(f.KidIndex(node, 1)), digits))
-        return ErrorOperand(*error);
-      digits = std::trunc(std::fmax(-400.0, std::fmin(400.0, digits)));
-      return Operand::Of(NumberResult(RoundDecimal(x, static_cast<int>(digits))));
-    }
-    default:
-      return ErrorOperand(ErrorCode::Value);
-  }
+Operand Sum(Evaluator& ev, const Formula::Node& node) {
+  return Aggregate(ev, node, Fold::Sum);
 }
 
-}  // namespace gustline::wb
+Operand Max(Evaluator& ev, const Formula::Node& node) {
+  return Aggregate(ev, node, Fold::Max);
+}
+
+Operand Min(Evaluator& ev, const Formula::Node& node) {
+  return Aggregate(ev, node, Fold::Min);
+}
+
+Operand Now(Evaluator&, const Formula::Node&) {
+  return Operand::Of(Value::Number(NowSerial()));
+}
+
+Operand Abs(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(ev, node, [](double x) { return Operand::Of(Value::Number(std::fabs(x))); });
+}
+
+Operand Sign(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(
+      ev, node, [](double x) { return Operand::Of(Value::Number(x > 0 ? 1 : (x < 0 ? -1 : 0))); });
+}
+
+Operand Ln(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(ev, node, [](double x) {
+    if (x <= 0) return ErrorOperand(ErrorCode::Num);
+    return Operand::Of(NumberResult(std::log(x)));
+  });
+}
+
+Operand Exp(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(ev, node, [](double x) { return Operand::Of(NumberResult(std::exp(x))); });
+}
+
+Operand Sqrt(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(ev, node, [](double x) {
+    if (x < 0) return ErrorOperand(ErrorCode::Num);
+    return Operand::Of(Value::Number(std::sqrt(x)));
+  });
+}
+
+Operand Round(Evaluator& ev, const Formula::Node& node) {
+  return OfNumber(ev, node, [&](double x) {
+    double digits = 0;
+    if (auto error = ToNumber(ev.Scalar(ev.GetFormula().KidIndex(node, 1)), digits))
+      return ErrorOperand(*error);
+    digits = std::trunc(std::fmax(-400.0, std::fmin(400.0, digits)));
+    return Operand::Of(NumberResult(RoundDecimal(x, static_cast<int>(digits))));
+  });
+}
+
+}  // namespace gustline::wb::functions

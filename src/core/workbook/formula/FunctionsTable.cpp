@@ -1,58 +1,61 @@
+#include <algorithm>
 #include <iterator>
+#include <span>
 
 #include "core/workbook/formula/FormulaAst.h"
+#include "core/workbook/formula/Functions.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::wb {
 namespace {
 
 constexpr int kMany = 255;
 
-// In FunctionId order.
 constexpr FunctionInfo kFunctions[] = {
-    {"IF", FunctionId::If, 2, 3},
-    {"CHOOSE", FunctionId::Choose, 2, kMany},
-    {"AND", FunctionId::And, 1, kMany},
-    {"OR", FunctionId::Or, 1, kMany},
-    {"INDEX", FunctionId::Index, 2, 3},
-    {"MATCH", FunctionId::Match, 2, 3},
-    {"VLOOKUP", FunctionId::VLookup, 3, 4},
-    {"ABS", FunctionId::Abs, 1, 1},
-    {"SIGN", FunctionId::Sign, 1, 1},
-    {"LN", FunctionId::Ln, 1, 1},
-    {"EXP", FunctionId::Exp, 1, 1},
-    {"SQRT", FunctionId::Sqrt, 1, 1},
-    {"ROUND", FunctionId::Round, 2, 2},
-    {"MAX", FunctionId::Max, 1, kMany},
-    {"MIN", FunctionId::Min, 1, kMany},
-    {"SUM", FunctionId::Sum, 1, kMany},
-    {"ISNUMBER", FunctionId::IsNumber, 1, 1},
-    {"ISTEXT", FunctionId::IsText, 1, 1},
-    {"ISNA", FunctionId::IsNa, 1, 1},
-    {"CODE", FunctionId::Code, 1, 1},
-    {"NOW", FunctionId::Now, 0, 0},
-    {"CONCATENATE", FunctionId::Concatenate, 1, kMany},
+    {"ABS", 1, 1, functions::Abs},
+    {"AND", 1, kMany, functions::And},
+    {"CHOOSE", 2, kMany, functions::Choose},
+    {"CODE", 1, 1, functions::Code},
+    {"CONCATENATE", 1, kMany, functions::Concatenate},
+    {"EXP", 1, 1, functions::Exp},
+    {"IF", 2, 3, functions::If},
+    {"INDEX", 2, 3, functions::Index},
+    {"ISNA", 1, 1, functions::IsNa},
+    {"ISNUMBER", 1, 1, functions::IsNumber},
+    {"ISTEXT", 1, 1, functions::IsText},
+    {"LN", 1, 1, functions::Ln},
+    {"MATCH", 2, 3, functions::Match},
+    {"MAX", 1, kMany, functions::Max},
+    {"MIN", 1, kMany, functions::Min},
+    {"NOW", 0, 0, functions::Now},
+    {"OR", 1, kMany, functions::Or},
+    {"ROUND", 2, 2, functions::Round},
+    {"SIGN", 1, 1, functions::Sign},
+    {"SQRT", 1, 1, functions::Sqrt},
+    {"SUM", 1, kMany, functions::Sum},
+    {"VLOOKUP", 3, 4, functions::VLookup},
 };
 
-bool SameNoCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    const char upper = a[i] >= 'a' && a[i] <= 'z' ? static_cast<char>(a[i] - 'a' + 'A') : a[i];
-    if (upper != b[i]) return false;
-  }
+// FindFunction searches by halving: the rows stand in ascending order of name, each name once.
+constexpr bool InNameOrder(std::span<const FunctionInfo> table) {
+  for (std::size_t i = 1; i < table.size(); ++i)
+    if (!LessNoCase(table[i - 1].name, table[i].name)) return false;
   return true;
 }
+static_assert(InNameOrder(kFunctions), "the rows of kFunctions must be in ascending name order");
 
 }  // namespace
 
-const FunctionInfo* FindFunction(std::string_view name) {
-  for (const FunctionInfo& info : kFunctions) {
-    if (SameNoCase(name, info.name)) return &info;
-  }
-  return nullptr;
+std::int32_t FindFunction(std::string_view name) {
+  const auto found = std::lower_bound(
+      std::begin(kFunctions), std::end(kFunctions), name,
+      [](const FunctionInfo& info, std::string_view key) { return LessNoCase(info.name, key); });
+  if (found == std::end(kFunctions) || !EqualNoCase(found->name, name)) return -1;
+  return static_cast<std::int32_t>(found - std::begin(kFunctions));
 }
 
-const FunctionInfo& GetFunctionInfo(FunctionId id) {
-  return kFunctions[static_cast<std::size_t>(id)];
+const FunctionInfo& FunctionAt(std::int32_t index) {
+  return kFunctions[static_cast<std::size_t>(index)];
 }
 
 }  // namespace gustline::wb

@@ -1,23 +1,24 @@
-#include "core/workbook/formula/Evaluator.h"
+#include "core/workbook/formula/Functions.h"
 
-namespace gustline::wb {
+namespace gustline::wb::functions {
 
-Operand CallTextFunction(Evaluator& ev, const Formula::Node& node) {
+Operand Code(Evaluator& ev, const Formula::Node& node) {
+  std::string text;
+  if (auto error = ToText(ev.Scalar(ev.GetFormula().KidIndex(node, 0)), text))
+    return ErrorOperand(*error);
+  if (text.empty()) return ErrorOperand(ErrorCode::Value);
+  return Operand::Of(Value::Number(static_cast<unsigned char>(text.front())));
+}
+
+Operand Concatenate(Evaluator& ev, const Formula::Node& node) {
   const Formula& f = ev.GetFormula();
   std::string text;
-  if (static_cast<FunctionId>(node.aux) == FunctionId::Code) {
-    if (auto error = ToText(ev.Scalar(f.KidIndex(node, 0)), text))
-      return Operand::Of(Value::Error(*error));
-    if (text.empty()) return Operand::Of(Value::Error(ErrorCode::Value));
-    return Operand::Of(Value::Number(static_cast<unsigned char>(text.front())));
-  }
   std::string part;
   for (int i = 0; i < node.count; ++i) {
-    if (auto error = ToText(ev.Scalar(f.KidIndex(node, i)), part))
-      return Operand::Of(Value::Error(*error));
+    if (auto error = ToText(ev.Scalar(f.KidIndex(node, i)), part)) return ErrorOperand(*error);
     text += part;
   }
   return Operand::Of(Value::Text(std::move(text)));
 }
 
-}  // namespace gustline::wb
+}  // namespace gustline::wb::functions
