@@ -10,6 +10,7 @@
 #include "core/ProjectFilesExtensions.h"
 #include "core/Prompt.h"
 #include "core/TextTools.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline {
 namespace {
@@ -22,7 +23,7 @@ std::string FindInFolder(const std::string& folder, const std::string& name) {
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
     const std::string candidate = entry.path().filename().string();
-    if (UpperCase(candidate) == UpperCase(name)) return entry.path().string();
+    if (wb::EqualNoCase(candidate, name)) return entry.path().string();
   }
   return exact;
 }

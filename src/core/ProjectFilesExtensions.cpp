@@ -2,19 +2,13 @@
 
 #include "core/FileNames.h"
 #include "core/TextTools.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline {
 namespace {
 
 std::size_t ExtensionDot(std::string_view path) {
   return path.find('.', path.size() < 4 ? 0 : path.size() - 4);
-}
-
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return lower;
 }
 
 }  // namespace
@@ -29,11 +23,14 @@ std::string BaseOf(std::string_view path) {
 }
 
 std::optional<int> FileTypeOfName(std::string_view path) {
-  const std::string extension = LowerCase(ExtensionOf(path));
-  if (extension == "gln" || extension == "glz") return kProjectFileType;
-  if (extension == "glt" || extension == "glu") return kTemplateFileType;
-  if (extension == "xls") return kExcelExportType;
-  if (extension == "txt") return kTextExportType;
+  const std::string extension = ExtensionOf(path);
+  const auto is = [&extension](std::string_view wanted) {
+    return wb::EqualNoCase(extension, wanted);
+  };
+  if (is("gln") || is("glz")) return kProjectFileType;
+  if (is("glt") || is("glu")) return kTemplateFileType;
+  if (is("xls")) return kExcelExportType;
+  if (is("txt")) return kTextExportType;
   return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include "core/Settings.h"
 #include "core/TextTools.h"
 #include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline {
 namespace {
@@ -28,10 +29,6 @@ bool ReadDouble(std::string_view text, double& number) {
   return !text.empty() && ec == std::errc() && ptr == end && std::isfinite(number);
 }
 
-bool EqualsNoCase(std::string_view text, std::string_view word) {
-  return UpperCase(text) == UpperCase(word);
-}
-
 }  // namespace
 
 int SettingInt(std::string_view key, std::string_view text) {
@@ -44,8 +41,8 @@ int SettingInt(std::string_view key, std::string_view text) {
 
 bool SettingBool(std::string_view key, std::string_view text) {
   const std::string_view trimmed = TrimBlanks(text);
-  if (EqualsNoCase(trimmed, "True")) return true;
-  if (EqualsNoCase(trimmed, "False")) return false;
+  if (wb::EqualNoCase(trimmed, "True")) return true;
+  if (wb::EqualNoCase(trimmed, "False")) return false;
   double number = 0;
   if (!ReadDouble(trimmed, number)) RaiseUnreadable(key, text);
   return number != 0;

@@ -9,6 +9,7 @@
 #include "core/workbook/model/BookRegistry.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/recalc/NameValueCache.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::wb {
 namespace {
@@ -35,14 +36,8 @@ Value EmptyAs(const Value& other) {
 }
 
 int CompareText(const std::string& a, const std::string& b) {
-  const std::size_t n = std::min(a.size(), b.size());
-  for (std::size_t i = 0; i < n; ++i) {
-    const int x = std::toupper(static_cast<unsigned char>(a[i]));
-    const int y = std::toupper(static_cast<unsigned char>(b[i]));
-    if (x != y) return x < y ? -1 : 1;
-  }
-  if (a.size() == b.size()) return 0;
-  return a.size() < b.size() ? -1 : 1;
+  if (LessNoCase(a, b)) return -1;
+  return LessNoCase(b, a) ? 1 : 0;
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "core/workbook/formula/FormulaLexer.h"
 
-#include <cctype>
 #include <cmath>
 #include <cstdlib>
 
 #include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::wb {
 namespace {
@@ -64,16 +64,6 @@ std::size_t ReadQuoted(std::string_view text, std::size_t start, char quote, std
     }
     out += text[i++];
   }
-}
-
-bool EqualsNoCase(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    if (std::toupper(static_cast<unsigned char>(a[i])) !=
-        std::toupper(static_cast<unsigned char>(b[i])))
-      return false;
-  }
-  return true;
 }
 
 // Canonical spellings; a literal is read without regard to case.
@@ -164,7 +154,7 @@ std::vector<FormulaToken> TokenizeFormula(std::string_view text) {
       i = close + 1;
     } else if (c == '#') {
       for (std::string_view literal : kErrorLiterals) {
-        if (EqualsNoCase(text.substr(i, literal.size()), literal)) token.text = literal;
+        if (EqualNoCase(text.substr(i, literal.size()), literal)) token.text = literal;
       }
       if (token.text.empty()) SyntaxError("Unknown error value", i);
       token.kind = Kind::Error;

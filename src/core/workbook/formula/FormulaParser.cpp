@@ -7,6 +7,7 @@
 #include "core/workbook/model/BookRegistry.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::wb {
 namespace {
@@ -27,13 +28,6 @@ std::string_view Trim(std::string_view text) {
   while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back())))
     text.remove_suffix(1);
   return text;
-}
-
-bool SameNoCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::toupper(static_cast<unsigned char>(x)) ==
-           std::toupper(static_cast<unsigned char>(y));
-  });
 }
 
 // A cell reference word: "B24", "$B$24", "b$24". Columns A to IV, rows 1 to 16384.
@@ -89,7 +83,7 @@ SheetTarget BindSheet(std::string book, std::string sheet, const FormulaHost& ho
   Workbook* owner = host.book;
   if (!target.bookText.empty()) {
     const std::string_view wanted = Trim(target.bookText);
-    if (host.book == nullptr || !SameNoCase(wanted, host.book->BookName())) {
+    if (host.book == nullptr || !EqualNoCase(wanted, host.book->BookName())) {
       owner = BookRegistry::Instance().FindByName(wanted);
       if (owner == nullptr) {
         target.kind = SheetTarget::Kind::Unbound;
@@ -354,8 +348,8 @@ class Parser {
     const Token& token = Next();
     if (Peek().kind == TK::LParen) return ParseCall(token.text, depth);
     if (Peek().kind == TK::Bang) return ParseQualified(ResolveSheet({}, token.text));
-    if (SameNoCase(token.text, "TRUE")) return Leaf(Kind::Boolean, 0, 1);
-    if (SameNoCase(token.text, "FALSE")) return Leaf(Kind::Boolean, 0, 0);
+    if (EqualNoCase(token.text, "TRUE")) return Leaf(Kind::Boolean, 0, 1);
+    if (EqualNoCase(token.text, "FALSE")) return Leaf(Kind::Boolean, 0, 0);
     return ReferenceOrName(SheetTarget{}, token.text);
   }
 

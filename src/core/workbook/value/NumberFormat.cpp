@@ -1,6 +1,5 @@
 #include "core/workbook/value/NumberFormat.h"
 
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "core/workbook/value/DateFormat.h"
+#include "core/workbook/value/TextCompare.h"
 
 namespace gustline::wb {
 namespace {
@@ -113,10 +113,7 @@ struct Section {
 
 bool IsGeneralAt(std::string_view text, std::size_t at) {
   constexpr std::string_view kGeneral = "general";
-  if (text.size() - at < kGeneral.size()) return false;
-  for (std::size_t i = 0; i < kGeneral.size(); ++i)
-    if (std::tolower(static_cast<unsigned char>(text[at + i])) != kGeneral[i]) return false;
-  return true;
+  return EqualNoCase(text.substr(at, kGeneral.size()), kGeneral);
 }
 
 Section ParseSection(std::string_view text) {
