@@ -14,9 +14,6 @@
 namespace gustline::wb {
 namespace {
 
-// Names that refer to names deeper than this are taken as circular.
-constexpr int kMaxNameDepth = 32;
-
 int KindRank(Value::Kind kind) {
   switch (kind) {
     case Value::Kind::Number:

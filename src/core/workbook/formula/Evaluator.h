@@ -58,6 +58,10 @@ int CompareValues(const Value& a, const Value& b);
 // A number result, or #NUM! when it is not finite.
 Value NumberResult(double number);
 
+// Names that refer to names deeper than this are taken as circular, by the evaluation and by
+// the order of calculation alike.
+inline constexpr int kMaxNameDepth = 32;
+
 // Walks the nodes of one formula for one host cell.
 class Evaluator {
  public:

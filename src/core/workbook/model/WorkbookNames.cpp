@@ -10,7 +10,7 @@ namespace gustline::wb {
 namespace {
 
 // Names may refer to names; a chain longer than this is taken for a loop.
-constexpr int kMaxNameDepth = 16;
+constexpr int kMaxReferenceChain = 16;
 
 // The position of the "!" that ends a sheet part, outside quotes, or npos.
 std::size_t SheetSeparator(std::string_view text) {
@@ -52,7 +52,7 @@ std::optional<std::pair<int, Area>> Resolve(Workbook& book, std::string_view tex
   if (const auto area = ParseAreaText(text)) return std::pair{sheet, *area};
 
   const int slot = book.Names().Find(TrimBlanks(text));
-  if (slot < 0 || depth >= kMaxNameDepth) return std::nullopt;
+  if (slot < 0 || depth >= kMaxReferenceChain) return std::nullopt;
   const DefinedNames::Entry& entry = book.Names().At(slot);
   if (!entry.defined) return std::nullopt;
   // The parsed definition follows renamed sheets; its text is printed as the book is now.

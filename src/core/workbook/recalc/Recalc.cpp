@@ -17,9 +17,6 @@ namespace {
 // Moves at every structural change of any book, which may redefine names that formulas use.
 std::uint64_t structureGeneration = 1;
 
-// Names that refer to names deeper than this are taken as circular.
-constexpr int kMaxNameDepth = 32;
-
 // The formula cells of one book, the edges from each to the formula cells it reads.
 class DependencyGraph {
  public:
