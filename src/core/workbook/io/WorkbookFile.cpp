@@ -1,4 +1,5 @@
 #include <fstream>
+#include <string_view>
 
 #include "core/workbook/io/AtomicFile.h"
 #include "core/workbook/io/Biff5Writer.h"
@@ -9,20 +10,41 @@
 #include "core/workbook/value/Utf8.h"
 
 namespace gustline::wb {
+namespace {
 
-// Only the book's own format is read: a tab-delimited text or any other file is refused as
-// corrupt, so that a wrong file given as a project never replaces it.
+// The first bytes of a file, which the formats are recognised by.
+constexpr std::size_t kHeadBytes = 64;
+
+// A stored format that a book is read from: whether a file's first bytes are of it, and the
+// reader that replaces the book by the file or raises FacilityError leaving it as it was.
+struct FileReader {
+  FileType type;
+  bool (*recognise)(std::string_view head);
+  void (*read)(std::istream& in, Workbook& book);
+};
+
+// Tried in order; only the book's own format is read, so that a tab-delimited text or any
+// other file given as a project is refused as corrupt and never replaces it.
+constexpr FileReader kReaders[] = {
+    {FileType::Native, LooksNative, ReadNative},
+};
+
+}  // namespace
+
 FileType Workbook::ReadWorkbook(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
   if (!in) throw FacilityError(errc::kFileOpen, "Cannot open the file " + PrintableText(path));
-  char head[64];
+  char head[kHeadBytes];
   in.read(head, sizeof head);
-  if (!LooksNative(std::string_view(head, static_cast<std::size_t>(in.gcount()))))
-    throw FacilityError(errc::kFileCorrupt, PrintableText(path) + " is not a workbook file");
-  in.clear();
-  in.seekg(0);
-  ReadNative(in, *this);
-  return FileType::Native;
+  const std::string_view headText(head, static_cast<std::size_t>(in.gcount()));
+  for (const FileReader& reader : kReaders) {
+    if (!reader.recognise(headText)) continue;
+    in.clear();
+    in.seekg(0);
+    reader.read(in, *this);
+    return reader.type;
+  }
+  throw FacilityError(errc::kFileCorrupt, PrintableText(path) + " is not a workbook file");
 }
 
 void Workbook::WriteWorkbook(const std::string& path, FileType type) {
