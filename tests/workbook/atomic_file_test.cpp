@@ -141,7 +141,9 @@ TEST_F(AtomicFileTest, RefusedSavesLeaveTheTargetAndNoTemporaryFile) {
       EXPECT_NE(std::string(error.what()).find(At(c.target).string()), std::string::npos);
     }
     EXPECT_EQ(Names(), before);
-    if (fs::is_regular_file(At(c.target))) EXPECT_EQ(Read(At(c.target)), content);
+    if (fs::is_regular_file(At(c.target))) {
+      EXPECT_EQ(Read(At(c.target)), content);
+    }
   }
 }
 
