@@ -21,7 +21,7 @@ int RunDxf(const std::vector<std::string>& args) {
     return kExitFailed;
   }
   std::string text;
-  for (const auto& [x, y] : outline.rows) text += x + '\t' + y + '\n';
+  for (const auto& [x, y] : outline.rows) text.append(x).append(1, '\t').append(y).append(1, '\n');
   std::cout << text;
   return kExitOk;
 }

@@ -18,7 +18,7 @@ namespace {
 // The file of that name in the folder, matched without regard to case as the file
 // dialogs of the program's first platform did; the name as given when none matches.
 std::string FindInFolder(const std::string& folder, const std::string& name) {
-  const std::string exact = JoinPath(folder, name);
+  std::string exact = JoinPath(folder, name);
   if (HasFile(exact)) return exact;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {

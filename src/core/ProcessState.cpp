@@ -32,7 +32,7 @@ ProcessState::ProcessState()
 ProcessState::~ProcessState() = default;
 
 std::string NextUntitledName(ProcessState& state) {
-  const std::string name = UpperCase("Project" + std::to_string(state.untitledCounter) + ".GLN");
+  std::string name = UpperCase("Project" + std::to_string(state.untitledCounter) + ".GLN");
   ++state.untitledCounter;
   return name;
 }

@@ -22,7 +22,7 @@ std::string DataHome() {
 
 std::string TemplateFolder(const std::string& programFolder) {
   if (access(programFolder.c_str(), W_OK) == 0) return programFolder;
-  const std::string folder = JoinPath(DataHome(), "Gustline");
+  std::string folder = JoinPath(DataHome(), "Gustline");
   std::error_code ignored;
   std::filesystem::create_directories(folder, ignored);
   return folder;

@@ -80,7 +80,7 @@ DxfOutline ReadDxfFile(const std::string& path) {
 
 std::string OutlineClipText(const std::vector<std::pair<std::string, std::string>>& rows) {
   std::string text;
-  for (const auto& [x, y] : rows) text += x + '\t' + y + "\r\n";
+  for (const auto& [x, y] : rows) text.append(x).append(1, '\t').append(y).append("\r\n");
   return text;
 }
 

@@ -144,9 +144,7 @@ int FigureListIndex(int system, int structure, int figure) {
       default:
         break;
     }
-  } else if (system == 0 && structure == 0) {
-    index = 0;
-  } else if (system == 0) {
+  } else if (system == 0 && structure != 0) {
     // A figure of another system gives way to Figure 6-6, so that the report has a template.
     index = figure == 9 ? 1 : figure == 8 ? 2 : 0;
   } else {

@@ -204,7 +204,7 @@ std::filesystem::path BookAssembler::FindBlock(const SourceLine& line, const std
   std::vector<std::filesystem::path> folders = {outer.file.parent_path(), bookDir_};
   folders.insert(folders.end(), libraries_.begin(), libraries_.end());
   for (const auto& folder : folders) {
-    const auto file = folder / (block + ".cells");
+    auto file = folder / (block + ".cells");
     if (std::filesystem::is_regular_file(file)) return file;
   }
   throw SourceError(line.where, "no block '" + block + "' (" +
@@ -409,11 +409,10 @@ void BookAssembler::PutFormula(const Placement& at, int authoredRow, int authore
 
 void BookAssembler::PutEntry(const Placement& at, int authoredRow, int authoredCol,
                              const Field& entry, const SourceLocation& where) {
-  if (entry.quoted) {
-    PutText(at, entry.text, where);
-  } else if (entry.text.front() == '=') {
+  const auto number = entry.quoted ? std::nullopt : ReadNumber(entry.text);
+  if (!entry.quoted && entry.text.front() == '=') {
     PutFormula(at, authoredRow, authoredCol, std::string_view(entry.text).substr(1), where);
-  } else if (const auto number = ReadNumber(entry.text)) {
+  } else if (number) {
     PutNumber(at, *number, where);
   } else {
     PutText(at, entry.text, where);

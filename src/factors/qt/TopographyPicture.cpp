@@ -7,7 +7,7 @@
 namespace gustline {
 
 TopographyPicture::TopographyPicture(QWidget* parent) : QWidget(parent) {
-  setMinimumSize(sizeHint());
+  setMinimumSize(TopographyPicture::sizeHint());
 }
 
 void TopographyPicture::paintEvent(QPaintEvent*) {

@@ -209,12 +209,15 @@ class BorderGrid {
   }
 
  private:
+  static std::size_t Index(int row, int width, int col) {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(width) +
+           static_cast<std::size_t>(col);
+  }
   std::size_t H(int edgeRow, int col) const {
-    return static_cast<std::size_t>((edgeRow - area_.firstRow) * cols_ + (col - area_.firstCol));
+    return Index(edgeRow - area_.firstRow, cols_, col - area_.firstCol);
   }
   std::size_t V(int row, int edgeCol) const {
-    return static_cast<std::size_t>((row - area_.firstRow) * (cols_ + 1) +
-                                    (edgeCol - area_.firstCol));
+    return Index(row - area_.firstRow, cols_ + 1, edgeCol - area_.firstCol);
   }
   static void Merge(wb::Border& edge, const wb::Border& border) { edge = Heavier(edge, border); }
 

@@ -48,7 +48,8 @@ void Headings::Command1_Click() {
 
 bool Headings::eventFilter(QObject* watched, QEvent* event) {
   auto* field = qobject_cast<QLineEdit*>(watched);
-  if (field && event->type() == QEvent::FocusIn) {
+  if (field == nullptr) return QDialog::eventFilter(watched, event);
+  if (event->type() == QEvent::FocusIn) {
     // After the click that gave the focus, which would otherwise place the caret.
     QTimer::singleShot(0, field, &QLineEdit::selectAll);
   } else if (field == ui_->Text2 && event->type() == QEvent::FocusOut) {

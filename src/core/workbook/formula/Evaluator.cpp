@@ -125,7 +125,7 @@ std::string NumberToText(double number) {
   }
   if (exponent < 0)
     return out + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
-  const auto whole = static_cast<std::size_t>(exponent + 1);
+  const auto whole = static_cast<std::size_t>(exponent) + 1;
   if (digits.size() <= whole) return out + digits + std::string(whole - digits.size(), '0');
   return out + digits.substr(0, whole) + "." + digits.substr(whole);
 }

@@ -99,10 +99,10 @@ class Formula {
   bool unboundLink = false;
 
   const Node& Kid(const Node& node, int i) const {
-    return nodes[static_cast<std::size_t>(kids[static_cast<std::size_t>(node.first + i)])];
+    return nodes[static_cast<std::size_t>(KidIndex(node, i))];
   }
   std::int32_t KidIndex(const Node& node, int i) const {
-    return kids[static_cast<std::size_t>(node.first + i)];
+    return kids[static_cast<std::size_t>(node.first) + static_cast<std::size_t>(i)];
   }
 };
 

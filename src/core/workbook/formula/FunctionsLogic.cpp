@@ -15,7 +15,7 @@ Operand Logical(Evaluator& ev, const Formula::Node& node, bool isAnd) {
     result = isAnd ? (result && flag) : (result || flag);
   };
   for (int i = 0; i < node.count; ++i) {
-    const Operand arg = ev.Eval(f.KidIndex(node, i));
+    Operand arg = ev.Eval(f.KidIndex(node, i));
     if (arg.isRef) {
       const Area& area = arg.ref.area;
       for (int row = area.firstRow; row <= area.lastRow; ++row) {

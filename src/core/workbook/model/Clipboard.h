@@ -19,7 +19,8 @@ struct ClipboardBlock {
   std::vector<CellStyle> styles;  // the styles of the copied cells, each once
 
   const Cell& At(int row, int col) const {
-    return cells[static_cast<std::size_t>(row * cols + col)];
+    return cells[static_cast<std::size_t>(row) * static_cast<std::size_t>(cols) +
+                 static_cast<std::size_t>(col)];
   }
 };
 

@@ -19,9 +19,9 @@ void CheckSheetName(std::string_view name) {
 
 }  // namespace
 
-Workbook::Workbook(std::string bookName)
+Workbook::Workbook(const std::string& bookName)
     : id_(BookRegistry::Instance().NextId()), recalc_(std::make_unique<RecalcState>()) {
-  SetBookName(std::move(bookName));
+  SetBookName(bookName);
   sheets_.push_back(std::make_unique<Sheet>(kFirstSheetName, nextSheetId_++));
   BookRegistry::Instance().Add(this);
 }
@@ -30,7 +30,7 @@ Workbook::~Workbook() {
   BookRegistry::Instance().Remove(this);
 }
 
-void Workbook::SetBookName(std::string name) {
+void Workbook::SetBookName(const std::string& name) {
   bookName_ = TrimBlanks(name);
 }
 

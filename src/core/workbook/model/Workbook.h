@@ -35,7 +35,7 @@ struct BorderInfo {
 // Failures raise FacilityError; calculations never do.
 class Workbook {
  public:
-  explicit Workbook(std::string bookName = "Book1");
+  explicit Workbook(const std::string& bookName = "Book1");
   ~Workbook();
   Workbook(const Workbook&) = delete;
   Workbook& operator=(const Workbook&) = delete;
@@ -43,7 +43,7 @@ class Workbook {
   std::uint64_t Id() const { return id_; }
   // Fixed in the stored data, trimmed; links in brackets match it.
   const std::string& BookName() const { return bookName_; }
-  void SetBookName(std::string name);
+  void SetBookName(const std::string& name);
   const std::string& Title() const { return title_; }
   void SetTitle(std::string title) { title_ = std::move(title); }
 

@@ -209,7 +209,7 @@ std::string GeneralScientific(const Decimal& decimal, int width) {
     const int exponent = rounded.point - 1;
     std::string mantissa = rounded.digits.empty() ? "0" : rounded.digits.substr(0, 1);
     if (rounded.digits.size() > 1) mantissa += "." + rounded.digits.substr(1);
-    const std::string text = mantissa + "E" + ExponentText(exponent, true, 2);
+    std::string text = mantissa + "E" + ExponentText(exponent, true, 2);
     if (static_cast<int>(text.size()) <= width || decimals == 0) return text;
   }
   return {};

@@ -149,6 +149,7 @@ bool CheckControls(Prompt& prompt, QWidget& form, const std::vector<ControlRule>
   fields.reserve(rules.size());
   for (const auto& [control, rule] : rules) fields.emplace_back(TextBox(form, control), rule);
   std::vector<RuleField*> walk;
+  walk.reserve(fields.size());
   for (TextBoxRule& field : fields) walk.push_back(&field);
   return CheckForm(prompt, walk);
 }
