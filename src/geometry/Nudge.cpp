@@ -1,6 +1,7 @@
 #include "geometry/Nudge.h"
 
 #include <chrono>
+#include <cstdlib>
 
 namespace gustline::geometry {
 namespace {
@@ -12,7 +13,13 @@ std::uint32_t ClockSeed() {
 
 }  // namespace
 
-CutRandom::CutRandom() : engine_(ClockSeed()), seeded_(false) {}
+CutRandom::CutRandom() : engine_(ClockSeed()), seeded_(false) {
+  // A run that must repeat (the tests, a comparison of two builds) fixes the sequence.
+  if (const char* seed = std::getenv("GUSTLINE_CUT_SEED")) {
+    engine_.seed(static_cast<std::uint32_t>(std::strtoul(seed, nullptr, 10)));
+    seeded_ = true;
+  }
+}
 
 CutRandom::CutRandom(std::uint32_t seed) : engine_(seed), seeded_(true) {}
 

@@ -6,7 +6,8 @@
 namespace gustline::geometry {
 
 // The random source of the cut offsets. By default it is re-seeded from the clock at every
-// nudge; given a seed it draws one repeatable sequence instead.
+// nudge, so that a cut that fails ("Try Again") may pass the next time; given a seed, or the
+// environment variable GUSTLINE_CUT_SEED, it draws one repeatable sequence instead.
 class CutRandom {
  public:
   CutRandom();
