@@ -24,6 +24,11 @@ std::vector<double> ReadList(const std::string& key, const std::string& text, st
   return numbers;
 }
 
+SourceError NotAFlag(const SourceLocation& where, const std::string& key,
+                     const std::string& value) {
+  return SourceError(where, "'" + key + "' is 0 or 1, not '" + value + "'");
+}
+
 }  // namespace
 
 void ApplyPrintKeys(const std::vector<std::string>& words, std::size_t first,
@@ -35,8 +40,7 @@ void ApplyPrintKeys(const std::vector<std::string>& words, std::size_t first,
     const bool hasValue = equals != std::string::npos;
     const std::string value = hasValue ? Unquote(words[i].substr(equals + 1)) : std::string();
     const auto flag = [&](bool& field) {
-      if (hasValue && value != "0" && value != "1")
-        throw SourceError(where, "'" + key + "' is 0 or 1, not '" + value + "'");
+      if (hasValue && value != "0" && value != "1") throw NotAFlag(where, key, value);
       field = !hasValue || value == "1";
     };
     const auto need = [&]() -> const std::string& {
