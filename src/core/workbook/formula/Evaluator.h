@@ -36,6 +36,20 @@ inline Operand ErrorOperand(ErrorCode code) {
 // The value of a cell of a range's sheet; an unwritten cell is empty.
 const Value& ValueAt(const Sheet& sheet, int row, int col);
 
+// The cells of a range row by row to `visit`, up to the first that holds an error, which is
+// returned; none when every cell was visited. The aggregates read ranges this way.
+template <typename Visit>
+const Value* VisitRange(const RangeRef& range, Visit visit) {
+  for (int row = range.area.firstRow; row <= range.area.lastRow; ++row) {
+    for (int col = range.area.firstCol; col <= range.area.lastCol; ++col) {
+      const Value& value = ValueAt(*range.sheet, row, col);
+      if (value.IsError()) return &value;
+      visit(value);
+    }
+  }
+  return nullptr;
+}
+
 // Sees every cell that an evaluation reads. Recalculation sets one while it orders a
 // circular group of cells by the reads that actually happen.
 class CellReadObserver {

@@ -17,14 +17,10 @@ Operand Logical(Evaluator& ev, const Formula::Node& node, bool isAnd) {
   for (int i = 0; i < node.count; ++i) {
     Operand arg = ev.Eval(f.KidIndex(node, i));
     if (arg.isRef) {
-      const Area& area = arg.ref.area;
-      for (int row = area.firstRow; row <= area.lastRow; ++row) {
-        for (int col = area.firstCol; col <= area.lastCol; ++col) {
-          const Value& value = ValueAt(*arg.ref.sheet, row, col);
-          if (value.IsError()) return Operand::Of(value);
-          if (value.IsNumber() || value.IsBoolean()) take(value.AsBoolean());
-        }
-      }
+      const Value* error = VisitRange(arg.ref, [&](const Value& value) {
+        if (value.IsNumber() || value.IsBoolean()) take(value.AsBoolean());
+      });
+      if (error) return Operand::Of(*error);
       continue;
     }
     const Value& value = arg.value;

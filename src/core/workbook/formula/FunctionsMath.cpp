@@ -93,14 +93,10 @@ Operand Aggregate(Evaluator& ev, const Formula::Node& node, Fold fold) {
   for (int i = 0; i < node.count; ++i) {
     const Operand arg = ev.Eval(f.KidIndex(node, i));
     if (arg.isRef) {
-      const Area& area = arg.ref.area;
-      for (int row = area.firstRow; row <= area.lastRow; ++row) {
-        for (int col = area.firstCol; col <= area.lastCol; ++col) {
-          const Value& value = ValueAt(*arg.ref.sheet, row, col);
-          if (value.IsError()) return Operand::Of(value);
-          if (value.IsNumber()) take(value.AsNumber());
-        }
-      }
+      const Value* error = VisitRange(arg.ref, [&](const Value& value) {
+        if (value.IsNumber()) take(value.AsNumber());
+      });
+      if (error) return Operand::Of(*error);
       continue;
     }
     if (arg.value.IsEmpty()) continue;
