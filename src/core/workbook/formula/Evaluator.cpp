@@ -84,15 +84,10 @@ std::optional<ErrorCode> ToText(const Value& value, std::string& text) {
 }
 
 std::optional<ErrorCode> ToBoolean(const Value& value, bool& flag) {
-  switch (value.GetKind()) {
-    case Value::Kind::Text:
-      return ErrorCode::Value;
-    case Value::Kind::Error:
-      return value.AsError();
-    default:
-      flag = value.AsNumber() != 0;
-      return std::nullopt;
-  }
+  double number = 0;
+  if (auto error = ToNumber(value, number)) return error;
+  flag = number != 0;
+  return std::nullopt;
 }
 
 std::string NumberToText(double number) {
