@@ -35,6 +35,17 @@ TEST(ClipText, EmptyFieldsClearAndNothingWritesNothing) {
   EXPECT_EQ(book.CellNumber(16384, 256), 1);
 }
 
+TEST(ClipText, ReadsTheSelectionAsShownAndStopsAtTheLastUsedRow) {
+  Workbook book;
+  book.SetSelection("B2");
+  book.SetClipText("0\t10\r\n\tTop\r\n");
+  book.SetCellFormula(2, 4, "B2+C2");
+  book.SetSelection("B2:D100");
+  EXPECT_EQ(book.ClipText(), "0\t10\t10\r\n\tTop\t\r\n");
+  book.SetSelection("A1:A1");
+  EXPECT_EQ(book.ClipText(), "\r\n");
+}
+
 class CopyDownTest : public ::testing::Test {
  protected:
   void SetUp() override {

@@ -123,6 +123,9 @@ class Workbook {
   // Writes a block from the selection's top left: fields at TAB, rows at CR LF (or LF);
   // a field that reads as a number becomes a number. All rows are written.
   void SetClipText(std::string_view text);
+  // The selection's cells as shown, fields at TAB and rows at CR LF: what SetClipText
+  // writes back. Rows below the sheet's last used row are left out.
+  std::string ClipText();
   // Fills the rows of the selection from its first row, formulas and formats.
   void CopyDown();
   // 1: everything; 3: values and formulas only, keeping formats.

@@ -45,6 +45,20 @@ void Workbook::SetClipText(std::string_view text) {
   }
 }
 
+std::string Workbook::ClipText() {
+  const Area area = WalkedArea(Active(), Active().selection);
+  const int lastRow = std::min(area.lastRow, LastRow());
+  std::string text;
+  for (int r = area.firstRow; r <= lastRow; ++r) {
+    for (int c = area.firstCol; c <= area.lastCol; ++c) {
+      if (c > area.firstCol) text += '\t';
+      text += CellText(r, c);
+    }
+    text += "\r\n";
+  }
+  return text;
+}
+
 void Workbook::CopyDown() {
   Sheet& sheet = Active();
   const Area area = WalkedArea(sheet, sheet.selection);
