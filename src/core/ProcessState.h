@@ -48,6 +48,8 @@ class ProcessState {
   std::int16_t untitledCounter = 1;
   bool modifiedFlag = false;
   bool dialogApplyFlag = false;
+  // "Ignore area calculation when calculating wind forces." of the Geometry dialog.
+  bool ignoreAreaCalculation = false;
   std::int16_t roofTypeCache = 0;  // Table66RoofType, kept by the report selection
   std::int16_t note5Cache = 0;     // Note5Applies, likewise
   wb::PrintSetup pageSetup = DefaultPageSetup();

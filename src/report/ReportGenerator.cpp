@@ -90,7 +90,7 @@ void ReportGenerator::BuildReport(Application& app) {
     } else {
       const ChosenTemplate& chosen = std::get<ChosenTemplate>(selection);
       const wb::Workbook& templateBook = Template(app.state.applicationPath, chosen.id);
-      const geometry::AreaContext areas{app.prompt, random_, ignoreArea_,
+      const geometry::AreaContext areas{app.prompt, random_, app.state.ignoreAreaCalculation,
                                         [&app](const std::string& text) {
                                           app.view.SetStatusPanel(1, text);
                                           return std::string(kCreatingReport);

@@ -32,15 +32,12 @@ class ReportGenerator : public ReportHook {
 
   // The template of the report on show; empty while no report has been built.
   const std::string& TemplateName() const { return templateName_; }
-  // "Ignore area calculation when calculating wind forces." of the Geometry dialog.
-  void SetIgnoreArea(bool ignore) { ignoreArea_ = ignore; }
 
  private:
   const wb::Workbook& Template(const std::string& applicationPath, const TemplateId& id);
 
   std::map<std::pair<TemplateContainer, std::string>, std::unique_ptr<wb::Workbook>> templates_;
   geometry::CutRandom random_;
-  bool ignoreArea_ = false;
   std::string templateName_;
 };
 

@@ -8,11 +8,11 @@
 
 namespace gustline {
 
-Fig66::Fig66(Application& app, QWidget* parent)
+Fig66::Fig66(Application& app, std::function<void()> wallGeometry, QWidget* parent)
     : QDialog(parent), app_(app), ui_(std::make_unique<Ui::Fig66>()) {
   ui_->setupUi(this);
-  // The geometry dialog comes with its own procedure; until then the button does nothing.
-  ui_->Command3->setEnabled(false);
+  ui_->Command3->setEnabled(static_cast<bool>(wallGeometry));
+  if (wallGeometry) connect(ui_->Command3, &QPushButton::clicked, this, std::move(wallGeometry));
   const auto sliderToField = [](QLineEdit* field) {
     return [field](int value) {
       field->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 
 #include "buildings/Fig66Values.h"
@@ -20,7 +21,10 @@ class Fig66 : public QDialog {
   Q_OBJECT
 
  public:
-  explicit Fig66(Application& app, QWidget* parent = nullptr);
+  // `wallGeometry` opens the Geometry dialog for "Wall Geometry..."; without it the button
+  // is greyed.
+  explicit Fig66(Application& app, std::function<void()> wallGeometry = {},
+                 QWidget* parent = nullptr);
   ~Fig66() override;
 
   // Fields and ticks as the dialog shows them.

@@ -18,6 +18,7 @@
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/RecentFiles.h"
+#include "geometry/qt/Geometry.h"
 #include "report/qt/PrintPreview.h"
 #include "report/qt/ReportView.h"
 

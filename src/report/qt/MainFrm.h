@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,9 @@ class QToolBar;
 
 namespace gustline {
 
+namespace geometry {
+class Geometry;
+}
 namespace report {
 class PrintPreview;
 class ReportView;
@@ -144,6 +148,8 @@ class MainFrm : public QMainWindow {
   void SwitchMenusForPreview(bool previewing);
   // frmWindProp at its tab: 0 design equation to 6 internal pressure.
   void OpenWindProperties(int tab);
+  // The Geometry dialog at its intervals tab (0) or coordinates tab (1); made on first use.
+  void OpenGeometry(int tab);
 
   Application* app_ = nullptr;
   RepeatCommand repeat_;
@@ -158,6 +164,7 @@ class MainFrm : public QMainWindow {
   QStackedWidget* reportArea_ = nullptr;
   report::ReportView* reportView_ = nullptr;
   report::PrintPreview* preview_ = nullptr;
+  std::unique_ptr<geometry::Geometry> geometry_;
   bool previewing_ = false;
   int zoomIndex_ = 5;
   bool fullScreenView_ = false;

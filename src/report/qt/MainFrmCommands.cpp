@@ -19,6 +19,7 @@
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
 #include "factors/qt/frmTopography.h"
+#include "geometry/qt/Geometry.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
 #include "ui/qt/frmNew.h"
@@ -29,10 +30,10 @@ namespace {
 
 // The figure dialogs of the procedures, which the wind properties dialog opens from its
 // coefficients and topography tabs. The other figures come with their procedures.
-FigureDialogs ProcedureDialogs() {
+FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   FigureDialogs dialogs;
-  dialogs.figures[FigureDialog::Fig66] = [](Application& app, QWidget* parent) {
-    Fig66(app, parent).exec();
+  dialogs.figures[FigureDialog::Fig66] = [wallGeometry](Application& app, QWidget* parent) {
+    Fig66(app, wallGeometry, parent).exec();
   };
   dialogs.figures[FigureDialog::Fig610] = [](Application& app, QWidget* parent) {
     Fig610(app, parent).exec();
@@ -89,7 +90,17 @@ void MainFrm::RefreshStatusSummary() {
 }
 
 void MainFrm::OpenWindProperties(int tab) {
-  if (app_) ShowWindProperties(*app_, tab, ProcedureDialogs(), this);
+  if (app_)
+    ShowWindProperties(*app_, tab, ProcedureDialogs([this] { OpenGeometry(1); }), this);
+}
+
+void MainFrm::OpenGeometry(int tab) {
+  if (!app_) return;
+  if (!geometry_) {
+    geometry_ = std::make_unique<geometry::Geometry>(*app_, this);
+    geometry_->SetHelp([this] { HelpContents(); });
+  }
+  geometry_->Exec(tab);
 }
 
 void MainFrm::FormatWidth() {

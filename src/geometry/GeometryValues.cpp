@@ -1,0 +1,184 @@
+#include "geometry/GeometryValues.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/ProcessState.h"
+#include "core/workbook/model/NamedCells.h"
+#include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/NumberFormat.h"
+#include "ui/rules/CheckRule.h"
+
+namespace gustline::geometry {
+namespace {
+
+// The entries of a list: runs of blanks, commas, tabs, CR and LF separate.
+std::vector<std::string_view> Entries(std::string_view text) {
+  std::vector<std::string_view> entries;
+  std::size_t pos = 0;
+  constexpr std::string_view kSeparators = " ,\t\r\n";
+  while ((pos = text.find_first_not_of(kSeparators, pos)) != std::string_view::npos) {
+    const std::size_t end = std::min(text.find_first_of(kSeparators, pos), text.size());
+    entries.push_back(text.substr(pos, end - pos));
+    pos = end;
+  }
+  return entries;
+}
+
+std::string Join(const std::vector<std::string_view>& entries, std::string_view separator) {
+  std::string text;
+  for (const std::string_view entry : entries) {
+    if (!text.empty()) text += separator;
+    text += entry;
+  }
+  return text;
+}
+
+// The lists that run by height interval and follow `Order`.
+constexpr std::string_view kListsByInterval[] = {"Table67Dia", "Table610Ratios",
+                                                 "TableSpecialProjAreas",
+                                                 "TableSpecialCoefficients"};
+
+}  // namespace
+
+GeometryValues LoadGeometry(wb::Workbook& project) {
+  return {wb::ReadNamedInt(project, "Interval"), wb::ReadNamedInt(project, "Order")};
+}
+
+std::string UserIntervalsRows(std::string_view userIntervals) {
+  const std::string rows = Join(Entries(userIntervals), "\r\n");
+  return rows.empty() ? "1.00" : rows;
+}
+
+std::string UserIntervalsFromRows(std::string_view rows) { return Join(Entries(rows), " "); }
+
+void SetUpIntervalGrid(wb::Workbook& grid) {
+  grid.SetSelection("A1:C100");
+  grid.SetNumberFormat("0.00");
+  grid.SetCellNumber(1, 1, 0.000001);
+  grid.SetCellFormula(1, 2, "C1");
+  for (int row = 2; row <= kIntervalRows; ++row) {
+    const std::string r = std::to_string(row);
+    const std::string above = std::to_string(row - 1);
+    grid.SetCellFormula(row, 1, "IF(ISNUMBER(C" + r + "),B" + above + ",\"\")");
+    grid.SetCellFormula(row, 2, "IF(ISNUMBER(C" + r + "),A" + r + "+C" + r + ",\"\")");
+  }
+  grid.SetSelection("C1");
+}
+
+void LoadIntervalGrid(wb::Workbook& grid, std::string_view userIntervals) {
+  grid.SetSelection("C2:C100");
+  grid.ClearRange(3);
+  grid.SetSelection("C1");
+  grid.SetClipText(UserIntervalsRows(userIntervals));
+}
+
+double SumOfLengths(wb::Workbook& grid) {
+  double sum = 0;
+  for (int row = 1; row <= kIntervalRows; ++row) {
+    const wb::Value value = grid.CellValue(row, 3);
+    if (value.IsNumber()) sum += value.AsNumber();
+  }
+  return sum;
+}
+
+void CancelIntervalGrid(wb::Workbook& grid, bool okPressedBefore) {
+  if (okPressedBefore) return;
+  grid.SetSelection("A2:B100");
+  grid.ClearRange(3);
+}
+
+void CopySheetCells(wb::Workbook& from, int fromSheet, wb::Workbook& to, int toSheet) {
+  const int fromActive = from.ActiveSheet();
+  const int toActive = to.ActiveSheet();
+  to.SetActiveSheet(toSheet);
+  if (to.LastRow() > 0) {
+    to.SetSelectionRC(1, 1, to.LastRow(), std::max(to.LastCol(), 1));
+    to.ClearRange(3);
+  }
+  to.SetSelection("A1");
+  from.SetActiveSheet(fromSheet);
+  const int lastRow = from.LastRow();
+  const int lastCol = from.LastCol();
+  for (int row = 1; row <= lastRow; ++row) {
+    for (int col = 1; col <= lastCol; ++col) {
+      const std::string entry = from.CellEntry(row, col);
+      if (!entry.empty()) to.SetCellEntry(row, col, entry);
+    }
+  }
+  from.SetActiveSheet(fromActive);
+  to.SetActiveSheet(toActive);
+}
+
+std::string ReverseCommaList(std::string_view list) {
+  const bool trailingComma = !list.empty() && list.back() == ',';
+  if (trailingComma) list.remove_suffix(1);
+  std::vector<std::string_view> entries;
+  std::size_t pos = 0;
+  while (true) {
+    const std::size_t comma = list.find(',', pos);
+    entries.push_back(list.substr(pos, comma - pos));
+    if (comma == std::string_view::npos) break;
+    pos = comma + 1;
+  }
+  std::ranges::reverse(entries);
+  return Join(entries, ",") + (trailingComma ? "," : "");
+}
+
+bool CheckSumOfLengths(Prompt& prompt, double sum) {
+  std::string text = wb::FormatNumber(sum, "General");
+  if (rules::CheckRange(prompt, 1, 2000, text)) return true;
+  prompt.Show({"Range Error", " Sum of lengths error.", PromptIcon::Stop, PromptButtons::Ok});
+  return false;
+}
+
+void ApplyGeometry(wb::Workbook& project, const GeometryValues& values, wb::Workbook& intervalGrid,
+                   wb::Workbook& outlineGrid) {
+  wb::WriteNamedInt(project, "Interval", values.interval);
+  CopySheetCells(outlineGrid, 1, project, kProjectOutlineSheet);
+  intervalGrid.SetSelection("C1:C100");
+  wb::WriteNamedText(project, "UserIntervals", UserIntervalsFromRows(intervalGrid.ClipText()));
+  if (values.interval == 5) wb::WriteNamedNumber(project, "Height", SumOfLengths(intervalGrid));
+  if (values.order != wb::ReadNamedInt(project, "Order")) {
+    wb::WriteNamedInt(project, "Order", values.order);
+    for (const std::string_view name : kListsByInterval)
+      wb::WriteNamedText(project, name, ReverseCommaList(wb::ReadNamedText(project, name)));
+  }
+}
+
+std::optional<Message> HeightIntervalWarning(double height, int interval) {
+  constexpr double kSteps[] = {1, 5, 10, 20};
+  if (interval < 1 || interval > 4 || height > kSteps[interval - 1]) return std::nullopt;
+  return Message{"Gustline", "Interval Length should be less than total structure height.",
+                 PromptIcon::Information, PromptButtons::Ok};
+}
+
+std::optional<IntervalQuestion> ChangingIntervalQuestion(int table, int structure, int mode,
+                                                         int openedMode) {
+  if ((structure != 2 && structure != 4) || mode == openedMode) return std::nullopt;
+  const auto question = [](std::string first, std::string_view second) {
+    return Message{"Gustline", first + std::string(kCrLf) + std::string(second), PromptIcon::Question,
+                   PromptButtons::YesNo};
+  };
+  switch (table) {
+    case 2:
+      return IntervalQuestion{
+          question("Changing Interval makes previously defined DIAMETER values invalid.",
+                   "Do you want to update DIAMETER values now?"),
+          IntervalListDialog::Figure619};
+    case 5:
+      return IntervalQuestion{
+          question("Changing Interval makes previously defined RATIOS(e) values invalid.",
+                   "Do you want to update RATIO(e) values now?"),
+          IntervalListDialog::Figure622};
+    case 6:
+      return IntervalQuestion{
+          question("Changing Interval makes previously defined AREA and PRESSURE COEFFICIENT",
+                   "values invalid. Do you want to update values now?"),
+          IntervalListDialog::TableSpecial};
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace gustline::geometry
