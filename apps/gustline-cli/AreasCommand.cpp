@@ -1,7 +1,5 @@
 // gustline-cli areas: the projected area of the outline in each height interval.
-#include <fstream>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,47 +14,16 @@
 namespace gustline::cli {
 namespace {
 
-constexpr int kOutlineSheet = 2;
-
-// Replaces the outline of the project by a file of X<TAB>Y lines, with empty lines
-// between boundaries. False when the file cannot be read.
-bool ReplaceOutline(wb::Workbook& project, const std::string& path) {
-  std::ifstream file(path);
-  if (!file) return false;
-  const int previousSheet = project.ActiveSheet();
-  project.SetActiveSheet(kOutlineSheet);
-  project.SetSelectionRC(-1, -1, -1, -1);
-  project.ClearRange(3);
-  std::string line;
-  for (int row = 1; std::getline(file, line); ++row) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    const auto tab = line.find('\t');
-    project.SetCellEntry(row, 1, line.substr(0, tab));
-    if (tab != std::string::npos) project.SetCellEntry(row, 2, line.substr(tab + 1));
-  }
-  project.SetActiveSheet(previousSheet);
-  return !file.bad();
-}
-
 int RunAreas(const std::vector<std::string>& args) {
   auto options = ParseProjectOptions(args);
   if (!options) return kExitUsage;
-  std::optional<std::string> outlinePath;
-  const auto& rest = options->rest;
-  for (std::size_t i = 0; i < rest.size(); ++i) {
-    if (rest[i] == "--outline" && i + 1 < rest.size()) {
-      outlinePath = rest[++i];
-      continue;
-    }
-    std::cerr << "gustline-cli areas: unexpected argument '" << rest[i] << "'\n";
+  if (!options->rest.empty()) {
+    std::cerr << "gustline-cli areas: unexpected argument '" << options->rest.front() << "'\n";
     return kExitUsage;
   }
   try {
     const auto project = OpenProject(*options);
-    if (outlinePath && !ReplaceOutline(*project, *outlinePath)) {
-      std::cerr << "gustline-cli areas: cannot read the outline '" << *outlinePath << "'\n";
-      return kExitUsage;
-    }
+    if (!project) return kExitUsage;
     StderrPrompt prompt;
     geometry::CutRandom random;
     const geometry::AreaContext context{prompt, random, false, nullptr};

@@ -1,12 +1,16 @@
 #include "ProjectOptions.h"
 
 #include <filesystem>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 
 #include "core/Prompt.h"
 #include "core/StartUp.h"
 #include "core/workbook/model/Workbook.h"
+#include "geometry/GeometryValues.h"
 #include "report/HeadlessReport.h"
+#include "ui/grid/GridEditor.h"
 #include "ui/rules/CellRules.h"
 
 namespace gustline::cli {
@@ -19,14 +23,14 @@ std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>
       options.unchecked = true;
       continue;
     }
-    if (arg == "--project" || arg == "--set") {
+    if (arg == "--project" || arg == "--set" || arg == "--outline") {
       if (i + 1 >= args.size()) {
         std::cerr << "gustline-cli: " << arg << " needs a value\n";
         return std::nullopt;
       }
       const std::string& value = args[++i];
-      if (arg == "--project") {
-        options.projectPath = value;
+      if (arg == "--project" || arg == "--outline") {
+        (arg == "--project" ? options.projectPath : options.outlinePath) = value;
         continue;
       }
       const auto equals = value.find('=');
@@ -48,7 +52,30 @@ std::string ProgramFolder() {
   return error ? std::string(".") : exe.parent_path().string();
 }
 
+namespace {
+
+// The project's outline sheet, `Sheet2`, replaced by the rows of a file.
+bool ReplaceOutline(wb::Workbook& project, const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  if (!file && !file.eof()) return false;
+  const int previousSheet = project.ActiveSheet();
+  project.SetActiveSheet(geometry::kProjectOutlineSheet);
+  project.SetSelectionRC(-1, -1, -1, -1);
+  project.ClearRange(3);
+  project.SetSelection("A1");
+  project.SetClipText(grid::GridRowsText(text));
+  project.SetActiveSheet(previousSheet);
+  return true;
+}
+
+}  // namespace
+
 bool ApplySets(wb::Workbook& project, const ProjectOptions& options) {
+  if (options.outlinePath && !ReplaceOutline(project, *options.outlinePath)) {
+    std::cerr << "gustline-cli: cannot read the outline '" << *options.outlinePath << "'\n";
+    return false;
+  }
   StderrPrompt prompt;
   for (const auto& [name, value] : options.sets) {
     if (!options.unchecked && !rules::CheckCellInput(prompt, name, value)) return false;

@@ -12,23 +12,28 @@ class Workbook;
 
 namespace gustline::cli {
 
-// The options that the project commands share: --project FILE, --set NAME=VALUE and
-// --unchecked.
+// The options that the project commands share: --project FILE, --set NAME=VALUE,
+// --unchecked and --outline FILE.
 struct ProjectOptions {
   std::optional<std::string> projectPath;                 // the default project when absent
   std::vector<std::pair<std::string, std::string>> sets;  // in the order given
   bool unchecked = false;         // --set values skip the field rules of the dialogs
+  // The outline in place of the project's: X and Y on each line, as pasted into the
+  // coordinate grid, an empty line between boundaries.
+  std::optional<std::string> outlinePath;
   std::vector<std::string> rest;  // the arguments left over
 };
 
-// Takes --project, --set and --unchecked out of the arguments; nullopt (with a message on
+// Takes --project, --set, --unchecked and --outline out of the arguments; nullopt (with a message on
 // standard error) when one of them lacks its value.
 std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>& args);
 
 // The folder of the running program.
 std::string ProgramFolder();
 
-// Writes each --set into the project as report::WriteProjectInput does, and recalculates. Unless
+// Puts the --outline into the project, then writes each --set into the project as
+// report::WriteProjectInput does, and recalculates. An outline that cannot be read is
+// refused with a message on standard error. Unless
 // --unchecked, a value is first tested against the rule of the dialog field that writes
 // the cell, as its OK does: a refused value shows the dialog's message on standard error,
 // and the result is false with nothing more written.

@@ -93,7 +93,7 @@ int RunReport(const std::vector<std::string>& args) {
 
 const bool registered = RegisterCommand("report",
                                         "report [--project FILE] [--set NAME=VALUE]... "
-                                        "[--unchecked] [--json FILE] [--OPTION FILE]...   build "
+                                        "[--outline FILE] [--unchecked] [--json FILE] [--OPTION FILE]...   build "
                                         "the report and write it",
                                         RunReport);
 

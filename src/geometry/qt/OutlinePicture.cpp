@@ -17,7 +17,7 @@ struct Extent {
   double maxY = 0;
 };
 
-// The points and cuts with the origin, so that the base of the structure shows.
+// The points and cuts with the origin, so that the base of the structure shows, and a margin.
 Extent PlotExtent(const OutlinePlot& plot) {
   Extent e;
   for (const Boundary& boundary : plot.boundaries)
@@ -33,7 +33,9 @@ Extent PlotExtent(const OutlinePlot& plot) {
   }
   if (e.maxX - e.minX <= 0) e.maxX = e.minX + 1;
   if (e.maxY - e.minY <= 0) e.maxY = e.minY + 1;
-  return e;
+  // A margin, so that no line lies on the frame of the axes.
+  const double margin = std::max(e.maxX - e.minX, e.maxY - e.minY) * 0.04;
+  return {e.minX - margin, e.maxX + margin, e.minY - margin, e.maxY + margin};
 }
 
 // A step of 1, 2 or 5 times a power of ten that cuts `span` into at most `count` parts.
@@ -47,43 +49,65 @@ double TickStep(double span, int count) {
 
 QString TickText(double value) { return QString::number(value, 'g', 10); }
 
+// The text height unit of a picture of this size, and the frame of its axes.
+double Unit(const QRectF& area) {
+  return std::max(1.0, std::min(area.width(), area.height()) / 60.0);
+}
+
+QRectF TitleBox(const QRectF& area) {
+  const double unit = Unit(area);
+  return {area.left(), area.top() + unit, area.width(), unit * 3};
+}
+
+QRectF AxesFrame(const QRectF& area) {
+  const double unit = Unit(area);
+  const QRectF title = TitleBox(area);
+  return {area.left() + unit * 8, title.bottom() + unit, area.width() - unit * 10,
+          area.height() - title.height() - unit * 9};
+}
+
 constexpr std::array<QRgb, 6> kSeriesColours = {0x1f4e9c, 0xc0392b, 0x2e8b57,
                                                 0x8e44ad, 0xd35400, 0x2c3e50};
 
 }  // namespace
 
+QTransform OutlineTransform(const QRectF& area, const OutlinePlot& plot) {
+  const QRectF frame = AxesFrame(area);
+  const Extent e = PlotExtent(plot);
+  const double scale =
+      std::min(frame.width() / (e.maxX - e.minX), frame.height() / (e.maxY - e.minY));
+  QTransform transform;
+  transform.translate(frame.center().x(), frame.center().y());
+  transform.scale(scale, -scale);
+  transform.translate(-(e.minX + e.maxX) / 2, -(e.minY + e.maxY) / 2);
+  return transform;
+}
+
 void PaintOutline(QPainter& painter, const QRectF& area, const OutlinePlot& plot) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(area, Qt::white);
-  const double unit = std::max(1.0, std::min(area.width(), area.height()) / 60.0);
+  const double unit = Unit(area);
   QFont font = painter.font();
   font.setPixelSize(static_cast<int>(std::lround(unit * 1.6)));
   QFont titleFont = font;
   titleFont.setBold(true);
   titleFont.setPixelSize(static_cast<int>(std::lround(unit * 2.2)));
 
-  const QRectF titleBox(area.left(), area.top() + unit, area.width(), unit * 3);
+  const QRectF titleBox = TitleBox(area);
   painter.setFont(titleFont);
   painter.setPen(Qt::black);
   painter.drawText(titleBox, Qt::AlignCenter, plot.title);
 
-  const QRectF frame(area.left() + unit * 8, titleBox.bottom() + unit,
-                     area.width() - unit * 10, area.height() - titleBox.height() - unit * 9);
-  const Extent e = PlotExtent(plot);
-  // One scale for both axes: the outline keeps its true shape, centred in the frame.
-  const double scale =
-      std::min(frame.width() / (e.maxX - e.minX), frame.height() / (e.maxY - e.minY));
-  const double midX = (e.minX + e.maxX) / 2;
-  const double midY = (e.minY + e.maxY) / 2;
-  const auto toScreen = [&](double x, double y) {
-    return QPointF(frame.center().x() + (x - midX) * scale,
-                   frame.center().y() - (y - midY) * scale);
-  };
-  const double left = midX - frame.width() / 2 / scale;
-  const double right = midX + frame.width() / 2 / scale;
-  const double bottom = midY - frame.height() / 2 / scale;
-  const double top = midY + frame.height() / 2 / scale;
+  const QRectF frame = AxesFrame(area);
+  // One scale for both axes: the outline keeps its true shape.
+  const QTransform transform = OutlineTransform(area, plot);
+  const auto toScreen = [&](double x, double y) { return transform.map(QPointF(x, y)); };
+  const QRectF feet = transform.inverted().mapRect(frame);
+  const double left = feet.left();
+  const double right = feet.right();
+  const double bottom = feet.top();
+  const double top = feet.bottom();
 
   painter.setFont(font);
   const double step = TickStep(std::max(right - left, top - bottom), 10);

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QRectF>
 #include <QString>
+#include <QTransform>
 #include <vector>
 
 #include "geometry/OutlineBoundaries.h"
@@ -23,6 +24,9 @@ struct OutlinePlot {
 // The one drawing of the viewer: on screen, the clipboard's picture, the printed page and
 // the tests' PNG all come from here.
 void PaintOutline(QPainter& painter, const QRectF& area, const OutlinePlot& plot);
+// Where the drawing in `area` puts a point in feet: one scale for both axes, the points
+// and cuts centred in the frame of the axes.
+QTransform OutlineTransform(const QRectF& area, const OutlinePlot& plot);
 QImage OutlineImage(const OutlinePlot& plot, const QSize& size);
 // The picture on one page, scaled to its printable area, and the document ended.
 void PrintOutline(QPrinter& printer, const OutlinePlot& plot);
