@@ -17,15 +17,15 @@ namespace gustline::cli {
 struct ProjectOptions {
   std::optional<std::string> projectPath;                 // the default project when absent
   std::vector<std::pair<std::string, std::string>> sets;  // in the order given
-  bool unchecked = false;         // --set values skip the field rules of the dialogs
+  bool unchecked = false;  // --set values skip the field rules of the dialogs
   // The outline in place of the project's: X and Y on each line, as pasted into the
   // coordinate grid, an empty line between boundaries.
   std::optional<std::string> outlinePath;
   std::vector<std::string> rest;  // the arguments left over
 };
 
-// Takes --project, --set, --unchecked and --outline out of the arguments; nullopt (with a message on
-// standard error) when one of them lacks its value.
+// Takes --project, --set, --unchecked and --outline out of the arguments; nullopt (with a message
+// on standard error) when one of them lacks its value.
 std::optional<ProjectOptions> ParseProjectOptions(const std::vector<std::string>& args);
 
 // The folder of the running program.

@@ -91,11 +91,12 @@ int RunReport(const std::vector<std::string>& args) {
   return status;
 }
 
-const bool registered = RegisterCommand("report",
-                                        "report [--project FILE] [--set NAME=VALUE]... "
-                                        "[--outline FILE] [--unchecked] [--json FILE] [--OPTION FILE]...   build "
-                                        "the report and write it",
-                                        RunReport);
+const bool registered =
+    RegisterCommand("report",
+                    "report [--project FILE] [--set NAME=VALUE]... "
+                    "[--outline FILE] [--unchecked] [--json FILE] [--OPTION FILE]...   build "
+                    "the report and write it",
+                    RunReport);
 
 }  // namespace
 }  // namespace gustline::cli

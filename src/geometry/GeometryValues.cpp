@@ -35,9 +35,8 @@ std::string Join(const std::vector<std::string_view>& entries, std::string_view 
 }
 
 // The lists that run by height interval and follow `Order`.
-constexpr std::string_view kListsByInterval[] = {"Table67Dia", "Table610Ratios",
-                                                 "TableSpecialProjAreas",
-                                                 "TableSpecialCoefficients"};
+constexpr std::string_view kListsByInterval[] = {
+    "Table67Dia", "Table610Ratios", "TableSpecialProjAreas", "TableSpecialCoefficients"};
 
 }  // namespace
 
@@ -50,7 +49,9 @@ std::string UserIntervalsRows(std::string_view userIntervals) {
   return rows.empty() ? "1.00" : rows;
 }
 
-std::string UserIntervalsFromRows(std::string_view rows) { return Join(Entries(rows), " "); }
+std::string UserIntervalsFromRows(std::string_view rows) {
+  return Join(Entries(rows), " ");
+}
 
 void SetUpIntervalGrid(wb::Workbook& grid) {
   grid.SetSelection("A1:C100");
@@ -157,8 +158,8 @@ std::optional<IntervalQuestion> ChangingIntervalQuestion(int table, int structur
                                                          int openedMode) {
   if ((structure != 2 && structure != 4) || mode == openedMode) return std::nullopt;
   const auto question = [](std::string first, std::string_view second) {
-    return Message{"Gustline", first + std::string(kCrLf) + std::string(second), PromptIcon::Question,
-                   PromptButtons::YesNo};
+    return Message{"Gustline", first + std::string(kCrLf) + std::string(second),
+                   PromptIcon::Question, PromptButtons::YesNo};
   };
   switch (table) {
     case 2:

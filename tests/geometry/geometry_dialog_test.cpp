@@ -18,10 +18,14 @@ class GeometryDialogTest : public ::testing::Test {
     project.SetSheetName(1, "Sheet1");
     project.AddSheet("Sheet2");
     const char* names[][2] = {
-        {"Interval", "Sheet1!$B$1"},        {"Order", "Sheet1!$B$2"},
-        {"UserIntervals", "Sheet1!$B$3"},   {"Height", "Sheet1!$B$4"},
-        {"Table67Dia", "Sheet1!$B$5"},      {"Table610Ratios", "Sheet1!$B$6"},
-        {"TableSpecialProjAreas", "Sheet1!$B$7"}, {"TableSpecialCoefficients", "Sheet1!$B$8"},
+        {"Interval", "Sheet1!$B$1"},
+        {"Order", "Sheet1!$B$2"},
+        {"UserIntervals", "Sheet1!$B$3"},
+        {"Height", "Sheet1!$B$4"},
+        {"Table67Dia", "Sheet1!$B$5"},
+        {"Table610Ratios", "Sheet1!$B$6"},
+        {"TableSpecialProjAreas", "Sheet1!$B$7"},
+        {"TableSpecialCoefficients", "Sheet1!$B$8"},
     };
     for (const auto& [name, refersTo] : names) project.SetDefinedName(name, refersTo);
     wb::WriteNamedNumber(project, "Height", 60);
@@ -65,8 +69,8 @@ TEST_F(GeometryDialogTest, FromAndToFollowTheLengthsRowByRow) {
 }
 
 TEST_F(GeometryDialogTest, TheSumOfLengthsRunsFromOneTo2000Feet) {
-  const std::pair<double, bool> cases[] = {{0, false}, {0.5, false}, {1, true},
-                                           {2000, true}, {2000.5, false}};
+  const std::pair<double, bool> cases[] = {
+      {0, false}, {0.5, false}, {1, true}, {2000, true}, {2000.5, false}};
   for (const auto& [sum, passes] : cases) {
     ScriptedPrompt p;
     EXPECT_EQ(CheckSumOfLengths(p, sum), passes) << sum;
@@ -147,8 +151,8 @@ TEST(HeightIntervalWarning, OnlyStepsThatReachTheHeight) {
     int interval;
     bool warns;
   };
-  const Case cases[] = {{10, 3, true},  {10.5, 3, false}, {1, 1, true},  {20, 4, true},
-                        {20.1, 4, false}, {3, 0, false},  {3, 5, false}, {5, 2, true}};
+  const Case cases[] = {{10, 3, true},    {10.5, 3, false}, {1, 1, true},  {20, 4, true},
+                        {20.1, 4, false}, {3, 0, false},    {3, 5, false}, {5, 2, true}};
   for (const Case& c : cases) {
     const auto warning = HeightIntervalWarning(c.height, c.interval);
     EXPECT_EQ(warning.has_value(), c.warns) << c.height << " " << c.interval;

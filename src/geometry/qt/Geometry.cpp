@@ -79,7 +79,9 @@ void Geometry::SetIntervalListDialogs(std::map<IntervalListDialog, std::function
   intervalListDialogs_ = std::move(dialogs);
 }
 
-void Geometry::SetHelp(std::function<void()> help) { help_ = std::move(help); }
+void Geometry::SetHelp(std::function<void()> help) {
+  help_ = std::move(help);
+}
 
 void Geometry::Display(int tab) {
   dirty_ = false;
@@ -151,8 +153,8 @@ void Geometry::Command1_Click() {
 }
 
 void Geometry::Command2_Click() {
-  CancelIntervalGrid(intervalGrid_,
-                     wb::ReadNamedInt(app_.state.ProjectWorkbook(), "OKPressedOnGeometryForm") == 1);
+  CancelIntervalGrid(intervalGrid_, wb::ReadNamedInt(app_.state.ProjectWorkbook(),
+                                                     "OKPressedOnGeometryForm") == 1);
   dirty_ = false;
   reject();
 }
@@ -188,8 +190,7 @@ void Geometry::Command6_Click() {
   const std::vector<double> x = ReadColumn(outlineGrid_, 1, 1);
   const std::vector<double> y = ReadColumn(outlineGrid_, 1, 2);
   const float area = GetTotalArea(x, y, app_.prompt);
-  ui_->Label2->setText(
-      QString::fromStdString(wb::FormatNumber(area, "#,##0.00") + " sq. ft."));
+  ui_->Label2->setText(QString::fromStdString(wb::FormatNumber(area, "#,##0.00") + " sq. ft."));
 }
 
 void Geometry::CheckHeightInterval() {
@@ -200,9 +201,9 @@ void Geometry::CheckHeightInterval() {
 
 void Geometry::ChangingIntervalPrompt() {
   wb::Workbook& project = app_.state.ProjectWorkbook();
-  const auto question =
-      ChangingIntervalQuestion(wb::ReadNamedInt(project, "Table"),
-                               wb::ReadNamedInt(project, "Structure"), values_.interval, openedMode_);
+  const auto question = ChangingIntervalQuestion(wb::ReadNamedInt(project, "Table"),
+                                                 wb::ReadNamedInt(project, "Structure"),
+                                                 values_.interval, openedMode_);
   if (!question || app_.prompt.Show(question->message) != PromptAnswer::Yes) return;
   // The chimney dialog builds its rows from the stored mode.
   if (question->dialog == IntervalListDialog::Figure619)

@@ -5,7 +5,9 @@
 
 namespace gustline::geometry {
 
-OutlineChart::OutlineChart(QWidget* parent) : QWidget(parent) { setMinimumSize(320, 320); }
+OutlineChart::OutlineChart(QWidget* parent) : QWidget(parent) {
+  setMinimumSize(320, 320);
+}
 
 void OutlineChart::SetPlot(OutlinePlot plot) {
   plot_ = std::move(plot);

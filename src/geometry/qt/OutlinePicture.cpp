@@ -47,7 +47,9 @@ double TickStep(double span, int count) {
   return 10 * power;
 }
 
-QString TickText(double value) { return QString::number(value, 'g', 10); }
+QString TickText(double value) {
+  return QString::number(value, 'g', 10);
+}
 
 // The text height unit of a picture of this size, and the frame of its axes.
 double Unit(const QRectF& area) {
@@ -125,8 +127,9 @@ void PaintOutline(QPainter& painter, const QRectF& area, const OutlinePlot& plot
     painter.drawLine(toScreen(left, y), toScreen(right, y));
     painter.setPen(Qt::black);
     const QPointF at = toScreen(left, y);
-    painter.drawText(QRectF(area.left(), at.y() - unit, at.x() - area.left() - unit * 0.5, unit * 2),
-                     Qt::AlignRight | Qt::AlignVCenter, TickText(y));
+    painter.drawText(
+        QRectF(area.left(), at.y() - unit, at.x() - area.left() - unit * 0.5, unit * 2),
+        Qt::AlignRight | Qt::AlignVCenter, TickText(y));
   }
   painter.setPen(QPen(Qt::black, 0));
   painter.drawRect(frame);

@@ -34,7 +34,9 @@ frmViewChart::frmViewChart(Prompt& prompt, QWidget* parent)
 
 frmViewChart::~frmViewChart() = default;
 
-OutlineChart& frmViewChart::Chart() const { return *ui_->MSChart1; }
+OutlineChart& frmViewChart::Chart() const {
+  return *ui_->MSChart1;
+}
 
 bool frmViewChart::ViewGeometry(wb::Workbook& grid, std::vector<double> cutHeights) {
   if (const auto undefined = UndefinedGeometry(grid)) {

@@ -90,8 +90,7 @@ void MainFrm::RefreshStatusSummary() {
 }
 
 void MainFrm::OpenWindProperties(int tab) {
-  if (app_)
-    ShowWindProperties(*app_, tab, ProcedureDialogs([this] { OpenGeometry(1); }), this);
+  if (app_) ShowWindProperties(*app_, tab, ProcedureDialogs([this] { OpenGeometry(1); }), this);
 }
 
 void MainFrm::OpenGeometry(int tab) {

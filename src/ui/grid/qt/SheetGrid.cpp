@@ -15,9 +15,7 @@ namespace {
 
 class SystemClipboard : public TextClipboard {
  public:
-  std::string Text() const override {
-    return QGuiApplication::clipboard()->text().toStdString();
-  }
+  std::string Text() const override { return QGuiApplication::clipboard()->text().toStdString(); }
   void SetText(const std::string& text) override {
     QGuiApplication::clipboard()->setText(QString::fromStdString(text));
   }
@@ -50,9 +48,8 @@ class SheetGridModel : public QAbstractTableModel {
       case Qt::EditRole:
         return QString::fromStdString(book.CellEntry(row, col));
       case Qt::TextAlignmentRole:
-        return book.CellValue(row, col).IsNumber()
-                   ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                   : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return book.CellValue(row, col).IsNumber() ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                                   : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
       default:
         return {};
     }
