@@ -1,6 +1,7 @@
 #include "geometry/GeometryValues.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "core/ProcessState.h"
@@ -58,12 +59,10 @@ void SetUpIntervalGrid(wb::Workbook& grid) {
   grid.SetNumberFormat("0.00");
   grid.SetCellNumber(1, 1, 0.000001);
   grid.SetCellFormula(1, 2, "C1");
-  for (int row = 2; row <= kIntervalRows; ++row) {
-    const std::string r = std::to_string(row);
-    const std::string above = std::to_string(row - 1);
-    grid.SetCellFormula(row, 1, "IF(ISNUMBER(C" + r + "),B" + above + ",\"\")");
-    grid.SetCellFormula(row, 2, "IF(ISNUMBER(C" + r + "),A" + r + "+C" + r + ",\"\")");
-  }
+  grid.SetCellFormula(2, 1, "IF(ISNUMBER(C2),B1,\"\")");
+  grid.SetCellFormula(2, 2, "IF(ISNUMBER(C2),A2+C2,\"\")");
+  grid.SetSelection("A2:B100");
+  grid.CopyDown();
   grid.SetSelection("C1");
 }
 
@@ -157,9 +156,10 @@ std::optional<Message> HeightIntervalWarning(double height, int interval) {
 std::optional<IntervalQuestion> ChangingIntervalQuestion(int table, int structure, int mode,
                                                          int openedMode) {
   if ((structure != 2 && structure != 4) || mode == openedMode) return std::nullopt;
-  const auto question = [](std::string first, std::string_view second) {
-    return Message{"Gustline", first + std::string(kCrLf) + std::string(second),
-                   PromptIcon::Question, PromptButtons::YesNo};
+  const auto question = [](std::string_view first, std::string_view second) {
+    std::string text(first);
+    text.append(kCrLf).append(second);
+    return Message{"Gustline", std::move(text), PromptIcon::Question, PromptButtons::YesNo};
   };
   switch (table) {
     case 2:

@@ -24,9 +24,9 @@ frmViewChart::frmViewChart(Prompt& prompt, QWidget* parent)
     action->setObjectName(QString::fromLatin1(name));
     connect(action, &QAction::triggered, this, handler);
   };
-  add("mnuCopy", QStringLiteral("&Copy to Clipboard"), [this] { mnuCopy_Click(); });
-  add("mnuPrint", QStringLiteral("&Print..."), [this] { mnuPrint_Click(); });
-  add("mnuTitle", QStringLiteral("Graph Title..."), [this] { mnuTitle_Click(); });
+  add("mnuCopy", QStringLiteral("&Copy to Clipboard"), [this] { CopyPicture(); });
+  add("mnuPrint", QStringLiteral("&Print..."), [this] { PrintPicture(); });
+  add("mnuTitle", QStringLiteral("Graph Title..."), [this] { AskTitle(); });
   add("mnuClose", QStringLiteral("Close View"), [this] { hide(); });
   connect(ui_->MSChart1, &OutlineChart::PopupRequested, popup_,
           [this](const QPoint& at) { popup_->popup(at); });
@@ -51,18 +51,18 @@ bool frmViewChart::ViewGeometry(wb::Workbook& grid, std::vector<double> cutHeigh
   return true;
 }
 
-void frmViewChart::mnuCopy_Click() {
+void frmViewChart::CopyPicture() {
   QGuiApplication::clipboard()->setImage(OutlineImage(Chart().Plot(), Chart().size()));
 }
 
-void frmViewChart::mnuPrint_Click() {
-  mnuCopy_Click();
+void frmViewChart::PrintPicture() {
+  CopyPicture();
   QPrinter printer(QPrinter::HighResolution);
   QPrintDialog dialog(&printer, this);
   if (dialog.exec() == QDialog::Accepted) PrintOutline(printer, Chart().Plot());
 }
 
-void frmViewChart::mnuTitle_Click() {
+void frmViewChart::AskTitle() {
   bool accepted = false;
   const QString title =
       QInputDialog::getText(this, QStringLiteral("Graph Title"), QStringLiteral("Enter Title : "),

@@ -39,9 +39,10 @@ class frmViewChart : public QDialog {
 
   OutlineChart& Chart() const;
   QMenu* PopupMenu() const { return popup_; }
-  void mnuCopy_Click();
-  void mnuPrint_Click();
-  void mnuTitle_Click();
+  // The commands of mnuPopUp: mnuCopy, mnuPrint and mnuTitle.
+  void CopyPicture();
+  void PrintPicture();
+  void AskTitle();
 
  private:
   Prompt& prompt_;
