@@ -8,23 +8,11 @@
 #include "core/workbook/model/NamedCells.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/NumberFormat.h"
+#include "geometry/HeightList.h"
 #include "ui/rules/CheckRule.h"
 
 namespace gustline::geometry {
 namespace {
-
-// The entries of a list: runs of blanks, commas, tabs, CR and LF separate.
-std::vector<std::string_view> Entries(std::string_view text) {
-  std::vector<std::string_view> entries;
-  std::size_t pos = 0;
-  constexpr std::string_view kSeparators = " ,\t\r\n";
-  while ((pos = text.find_first_not_of(kSeparators, pos)) != std::string_view::npos) {
-    const std::size_t end = std::min(text.find_first_of(kSeparators, pos), text.size());
-    entries.push_back(text.substr(pos, end - pos));
-    pos = end;
-  }
-  return entries;
-}
 
 std::string Join(const std::vector<std::string_view>& entries, std::string_view separator) {
   std::string text;
@@ -46,12 +34,12 @@ GeometryValues LoadGeometry(wb::Workbook& project) {
 }
 
 std::string UserIntervalsRows(std::string_view userIntervals) {
-  const std::string rows = Join(Entries(userIntervals), "\r\n");
+  const std::string rows = Join(CommaListEntries(userIntervals), "\r\n");
   return rows.empty() ? "1.00" : rows;
 }
 
 std::string UserIntervalsFromRows(std::string_view rows) {
-  return Join(Entries(rows), " ");
+  return Join(CommaListEntries(rows), " ");
 }
 
 void SetUpIntervalGrid(wb::Workbook& grid) {
@@ -147,8 +135,7 @@ void ApplyGeometry(wb::Workbook& project, const GeometryValues& values, wb::Work
 }
 
 std::optional<Message> HeightIntervalWarning(double height, int interval) {
-  constexpr double kSteps[] = {1, 5, 10, 20};
-  if (interval < 1 || interval > 4 || height > kSteps[interval - 1]) return std::nullopt;
+  if (interval < 1 || interval > 4 || height > IntervalStep(interval)) return std::nullopt;
   return Message{"Gustline", "Interval Length should be less than total structure height.",
                  PromptIcon::Information, PromptButtons::Ok};
 }

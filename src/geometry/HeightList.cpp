@@ -1,5 +1,6 @@
 #include "geometry/HeightList.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -51,11 +52,6 @@ int LadderIndex(double height) {
   throw wb::FacilityError(wb::errc::kBadArgument, "Subscript out of range");
 }
 
-double StepOf(int interval) {
-  constexpr std::array<double, 4> kSteps = {1, 5, 10, 20};
-  return kSteps[static_cast<std::size_t>(interval - 1)];
-}
-
 // Equal steps: a remainder of up to half a step goes into the last row.
 int StepRows(double height, double step) {
   const double whole = std::floor(height / step);
@@ -68,7 +64,7 @@ int StepRows(double height, double step) {
 int RowCount(const HeightInputs& inputs) {
   if (inputs.interval == 0) return LadderIndex(inputs.height) + 1;
   if (inputs.interval == 5) return static_cast<int>(inputs.lengths.size());
-  return StepRows(inputs.height, StepOf(inputs.interval));
+  return StepRows(inputs.height, IntervalStep(inputs.interval));
 }
 
 // The rows, lowest first, as pairs of low and high.
@@ -94,7 +90,7 @@ std::vector<std::pair<double, double>> HeightRows(const HeightInputs& inputs) {
     return rows;
   }
   // Only the list clamps the step to the height; the count does not.
-  double step = StepOf(inputs.interval);
+  double step = IntervalStep(inputs.interval);
   if (inputs.height < step) step = inputs.height;
   const int count = StepRows(inputs.height, step);
   for (int k = 0; k + 1 < count; ++k) {
@@ -115,21 +111,30 @@ std::string GeneralText(double number) {
 
 }  // namespace
 
-std::vector<double> ReadCommaList(std::string_view text) {
-  std::vector<double> entries;
+double IntervalStep(int interval) {
+  constexpr std::array<double, 4> kSteps = {1, 5, 10, 20};
+  return kSteps[static_cast<std::size_t>(interval - 1)];
+}
+
+std::vector<std::string_view> CommaListEntries(std::string_view text) {
+  std::vector<std::string_view> entries;
   constexpr std::string_view kSeparators = ",;:\t\r\n ";
   std::size_t start = 0;
-  while (start < text.size()) {
-    start = text.find_first_not_of(kSeparators, start);
-    if (start == std::string_view::npos) break;
-    std::size_t end = text.find_first_of(kSeparators, start);
-    if (end == std::string_view::npos) end = text.size();
-    const std::string_view entry = text.substr(start, end - start);
+  while ((start = text.find_first_not_of(kSeparators, start)) != std::string_view::npos) {
+    const std::size_t end = std::min(text.find_first_of(kSeparators, start), text.size());
+    entries.push_back(text.substr(start, end - start));
+    start = end;
+  }
+  return entries;
+}
+
+std::vector<double> ReadCommaList(std::string_view text) {
+  std::vector<double> entries;
+  for (const std::string_view entry : CommaListEntries(text)) {
     double value = 0;
     const auto [ptr, ec] = std::from_chars(entry.data(), entry.data() + entry.size(), value);
     entries.push_back(ec == std::errc() && ptr != entry.data() && std::isfinite(value) ? value
                                                                                        : 0.0);
-    start = end;
   }
   return entries;
 }

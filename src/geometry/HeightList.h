@@ -26,8 +26,13 @@ std::string BuildHeightText(double height, int interval, int order, std::string_
 std::vector<HeightInterval> BuildIntervalTable(double height, int interval,
                                                std::string_view userIntervals);
 
-// The entries of a comma list: comma, semicolon, colon, tab, CR, LF and runs of blanks all
-// separate, and empty entries are dropped. An entry that does not start with a number is 0.
+// The entries of a comma list as written: comma, semicolon, colon, tab, CR, LF and runs of
+// blanks all separate, and empty entries are dropped.
+std::vector<std::string_view> CommaListEntries(std::string_view text);
+// The entries as numbers; an entry that does not start with a number is 0.
 std::vector<double> ReadCommaList(std::string_view text);
+
+// The length in feet of the equal steps of `Interval` 1 to 4: 1, 5, 10 and 20.
+double IntervalStep(int interval);
 
 }  // namespace gustline::geometry

@@ -36,8 +36,7 @@ Geometry::Geometry(Application& app, QWidget* parent)
                        {QStringLiteral("X-Coord.\n[ ft ]"), QStringLiteral("Y-Coord.\n[ ft ]")},
                        kOutlineRows, {1, 2});
 
-  QRadioButton* const modes[] = {ui_->Option1_0, ui_->Option1_1, ui_->Option1_2,
-                                 ui_->Option1_3, ui_->Option1_4, ui_->Option1_5};
+  const auto modes = ModeOptions();
   for (int i = 0; i < 6; ++i)
     connect(modes[i], &QRadioButton::clicked, this, [this, i] { Option1_Click(i); });
   connect(ui_->Option2_0, &QRadioButton::clicked, this, [this] { Option2_Click(0); });
@@ -88,9 +87,8 @@ void Geometry::Display(int tab) {
   wb::Workbook& project = app_.state.ProjectWorkbook();
   values_ = LoadGeometry(project);
   openedMode_ = values_.interval;
-  QRadioButton* const modes[] = {ui_->Option1_0, ui_->Option1_1, ui_->Option1_2,
-                                 ui_->Option1_3, ui_->Option1_4, ui_->Option1_5};
-  if (values_.interval >= 0 && values_.interval < 6) modes[values_.interval]->setChecked(true);
+  if (values_.interval >= 0 && values_.interval < 6)
+    ModeOptions()[static_cast<std::size_t>(values_.interval)]->setChecked(true);
   (values_.order == 1 ? ui_->Option2_1 : ui_->Option2_0)->setChecked(true);
   CopySheetCells(project, kProjectOutlineSheet, outlineGrid_, 1);
   LoadIntervalGrid(intervalGrid_, wb::ReadNamedText(project, "UserIntervals"));
@@ -111,6 +109,11 @@ int Geometry::Exec(int tab) {
     return result;
   });
   return result;
+}
+
+std::array<QRadioButton*, 6> Geometry::ModeOptions() const {
+  return {ui_->Option1_0, ui_->Option1_1, ui_->Option1_2,
+          ui_->Option1_3, ui_->Option1_4, ui_->Option1_5};
 }
 
 void Geometry::ShowMode() {

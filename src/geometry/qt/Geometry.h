@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 #include <functional>
 #include <map>
 #include <memory>
 
 #include "core/workbook/model/Workbook.h"
 #include "geometry/GeometryValues.h"
+
+class QRadioButton;
 
 namespace Ui {
 class Geometry;
@@ -60,6 +63,8 @@ class Geometry : public QDialog {
   bool Dirty() const { return dirty_; }
 
  private:
+  // Option1_0 to Option1_5.
+  std::array<QRadioButton*, 6> ModeOptions() const;
   void ShowMode();
   void ChangingIntervalPrompt();
   void ShowEditMenu(int grid, const QPoint& globalPos);
