@@ -4,6 +4,7 @@
 #include <cctype>
 #include <set>
 
+#include "CsvTable.h"
 #include "FormulaCheck.h"
 #include "SheetWords.h"
 #include "core/workbook/address/CellAddress.h"
@@ -137,6 +138,8 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
     const Placement start = Locate(line.where, cellWords[1], frame, &grid.row, &grid.col);
     if (frame.isBook) frame.sheet = start.sheet;
     section = Section::Grid;
+  } else if (keyword == "table") {
+    PlaceTable(line, words, frame);
   } else if (keyword == "name") {
     DefineNameDirective(line, frame);
   } else if (keyword == "include") {
@@ -313,6 +316,37 @@ void BookAssembler::PlaceGridRow(const SourceLine& line, const Frame& frame, Gri
     PutEntry(at, grid.row, authoredCol, fields[i], line.where);
   }
   ++grid.row;
+}
+
+void BookAssembler::PlaceTable(const SourceLine& line, std::vector<std::string> words,
+                               const Frame& frame) {
+  if (frame.isBook) JoinQualifiedWord(words, 1);
+  const bool filtered = words.size() > 6;
+  if (words.size() < 6 || (filtered && (words[6] != "where" || words.size() == 7)))
+    throw SourceError(line.where,
+                      "usage: table CELL FILE ROW-KEY COLUMN-KEY VALUE [where COLUMN=VALUE ...]");
+  std::vector<CsvFilter> filters;
+  for (std::size_t i = 7; i < words.size(); ++i) {
+    auto [column, value] = SplitAssignment(words[i], line.where);
+    filters.push_back({column, value});
+  }
+  const auto file = frame.file.parent_path() / Unquote(words[2]);
+  const CsvGrid grid = ReadCsvGrid(file, {words[3], words[4], words[5]}, filters, line.where);
+
+  const Placement corner = Locate(line.where, words[1], frame);
+  const auto put = [&](std::size_t down, std::size_t right, double number) {
+    const Placement at{corner.sheet, corner.row + static_cast<int>(down),
+                       corner.col + static_cast<int>(right)};
+    if (at.row > wb::kMaxRow || at.col > wb::kMaxCol)
+      throw SourceError(line.where, "the table falls off the sheet at this anchor");
+    PutNumber(at, number, line.where);
+  };
+  for (std::size_t c = 0; c < grid.columnKeys.size(); ++c) put(0, c + 1, grid.columnKeys[c]);
+  for (std::size_t r = 0; r < grid.rowKeys.size(); ++r) {
+    put(r + 1, 0, grid.rowKeys[r]);
+    for (std::size_t c = 0; c < grid.columnKeys.size(); ++c)
+      put(r + 1, c + 1, grid.values[r][c]);
+  }
 }
 
 BookAssembler::Placement BookAssembler::Locate(const SourceLocation& where, const std::string& text,
