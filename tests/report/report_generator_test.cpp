@@ -212,13 +212,12 @@ TEST_F(ReportGeneratorTest, KeepsTheFormerReportWhenNoneIsMade) {
 TEST_F(ReportGeneratorTest, MissingTemplateGoesToTheCommonErrorReport) {
   generator.CreateReport(app);
   Set("System", 2);
-  Set("B124", 1);
   generator.CreateReport(app);
   ASSERT_EQ(prompt.messages.size(), 1u);
   EXPECT_EQ(prompt.messages[0].title, "Error");
   EXPECT_EQ(prompt.messages[0].icon, PromptIcon::Stop);
   EXPECT_EQ(prompt.messages[0].text.rfind("Gustline error : \r\nThe report template "
-                                          "SimpCompAndClad of ContainerF is not built yet",
+                                          "Figure618A of ContainerA is not built yet",
                                           0),
             0u);
   EXPECT_EQ(generator.TemplateName(), "Figure66A");
