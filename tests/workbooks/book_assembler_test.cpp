@@ -77,7 +77,8 @@ TEST_F(BookAssemblerTest, BlockLandsAtItsAnchorWithReferencesFollowing) {
 // A table kept as data: the lines of one block, row keys down, column keys across, in the
 // order the file gives them; a damaged file stops the build at the directive.
 TEST_F(BookAssemblerTest, TableComesFromItsDataFile) {
-  Write("book.book", "book Test\nsheet Main\ninclude block at Main!B3 with TITLE=\"Zone A, Case 1\"\n");
+  Write("book.book",
+        "book Test\nsheet Main\ninclude block at Main!B3 with TITLE=\"Zone A, Case 1\"\n");
   Write("block.cells",
         "param TITLE\ntable A2 speeds.csv angle speed psf where block=\"{TITLE}\" case=1\n");
   Write("speeds.csv",

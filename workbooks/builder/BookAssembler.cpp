@@ -344,8 +344,7 @@ void BookAssembler::PlaceTable(const SourceLine& line, std::vector<std::string> 
   for (std::size_t c = 0; c < grid.columnKeys.size(); ++c) put(0, c + 1, grid.columnKeys[c]);
   for (std::size_t r = 0; r < grid.rowKeys.size(); ++r) {
     put(r + 1, 0, grid.rowKeys[r]);
-    for (std::size_t c = 0; c < grid.columnKeys.size(); ++c)
-      put(r + 1, c + 1, grid.values[r][c]);
+    for (std::size_t c = 0; c < grid.columnKeys.size(); ++c) put(r + 1, c + 1, grid.values[r][c]);
   }
 }
 

@@ -23,6 +23,8 @@ class QToolBar;
 
 namespace gustline {
 
+class frmSimplified;
+
 namespace geometry {
 class Geometry;
 }
@@ -150,6 +152,8 @@ class MainFrm : public QMainWindow {
   void OpenWindProperties(int tab);
   // The Geometry dialog at its intervals tab (0) or coordinates tab (1); made on first use.
   void OpenGeometry(int tab);
+  // The simplified procedure's dialog; made on first use and kept.
+  void OpenSimplified();
 
   Application* app_ = nullptr;
   RepeatCommand repeat_;
@@ -165,6 +169,7 @@ class MainFrm : public QMainWindow {
   report::ReportView* reportView_ = nullptr;
   report::PrintPreview* preview_ = nullptr;
   std::unique_ptr<geometry::Geometry> geometry_;
+  std::unique_ptr<frmSimplified> simplified_;
   bool previewing_ = false;
   int zoomIndex_ = 5;
   bool fullScreenView_ = false;

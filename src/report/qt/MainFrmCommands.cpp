@@ -22,6 +22,7 @@
 #include "geometry/qt/Geometry.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
+#include "simplified/qt/frmSimplified.h"
 #include "ui/qt/frmNew.h"
 #include "ui/qt/frmWindProp.h"
 
@@ -100,6 +101,25 @@ void MainFrm::OpenGeometry(int tab) {
     geometry_->SetHelp([this] { HelpContents(); });
   }
   geometry_->Exec(tab);
+}
+
+void MainFrm::OpenSimplified() {
+  if (!app_) return;
+  if (!simplified_) {
+    simplified_ = std::make_unique<frmSimplified>(*app_, this);
+    // The wind properties dialog, modal over the simplified one on its topography page.
+    simplified_->SetTopography([this](QWidget* /*over*/) {
+      frmWindProp& form = WindPropertiesForm(*app_, this);
+      form.SetFigureDialogs(ProcedureDialogs([this] { OpenGeometry(1); }));
+      form.SetReportOnLeave(false);
+      form.TabSelect(kTopographyTab);
+      form.exec();
+      form.SetReportOnLeave(true);
+    });
+    simplified_->SetHelp([this] { HelpContents(); }, [this] { HelpContents(); });
+  }
+  RefreshStatusSummary();
+  simplified_->Exec();
 }
 
 void MainFrm::FormatWidth() {

@@ -117,7 +117,7 @@ std::vector<MainFrm::MenuEntry> MainFrm::MenuEntries() {
       {Command, "mnuParameters", "mnuPropertiesEquation", "A&nalytical Procedure",
        "Use Method 2- Analytical Procedure", [](MainFrm& w) { w.OpenWindProperties(0); }},
       {Command, "mnuParameters", "mnuSimplified", "&Simplified Procedure",
-       "Use Method 1 - Simplified Procedure", [](MainFrm& w) { w.RefreshStatusSummary(); }},
+       "Use Method 1 - Simplified Procedure", [](MainFrm& w) { w.OpenSimplified(); }},
       {Separator, "mnuParameters"},
       {Command, "mnuParameters", "mnuPropertiesWind", "&Wind Data...",
        "Select basic wind speed, exposure, category, and mean sea level.",

@@ -7,6 +7,8 @@
 #include "buildings/Fig66Values.h"
 #include "core/workbook/value/NumberFormat.h"
 #include "core/workbook/value/TextCompare.h"
+#include "simplified/SimplifiedValues.h"
+#include "simplified/WindAreasValues.h"
 #include "ui/frmWindPropValues.h"
 #include "ui/rules/CheckRule.h"
 #include "ui/rules/FieldNumber.h"
@@ -33,6 +35,8 @@ std::span<const CellRule> CellRules() {
     AddRules(gathered, "frmWindProp", kWindPropertiesFields);
     AddRules(gathered, "Fig66", kFig66Fields);
     AddRules(gathered, "Fig610", kFig610Fields);
+    AddRules(gathered, "frmSimplified", kSimplifiedFields);
+    AddRules(gathered, "WindAreasFrm", kWindAreasFields);
     return gathered;
   }();
   return rules;

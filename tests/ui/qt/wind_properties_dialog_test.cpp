@@ -53,11 +53,13 @@ TEST(WindPropertiesDialogTest, OkWritesTheFieldsAndBuildsTheReport) {
                           {"HillX", "250", "HillX", 250}};
   for (const OkCase& c : cases) {
     DialogApp d;
+    wb::WriteNamedNumber(d.Project(), "B124", 1);
     frmWindProp form(d.app);
     form.show();
     Field(form, c.field)->setText(c.text);
     form.Command1_Click();
     EXPECT_DOUBLE_EQ(d.Number(c.cell), c.written) << c.field;
+    EXPECT_EQ(d.Number("B124"), 0) << "the analytical procedure takes over";
     EXPECT_TRUE(d.state.modifiedFlag);
     EXPECT_EQ(d.report.reports, 1);
     EXPECT_FALSE(form.isVisible());
