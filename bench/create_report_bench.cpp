@@ -44,6 +44,9 @@ const std::vector<Case>& Cases() {
       {"Figure66C",
        TemplateContainer::F,
        {{"System", 0}, {"Structure", 1}, {"Figure", 1}, {"GustType", 1}}},
+      // The simplified procedure, at a roof steeper than 25 degrees so that Load Case 2 shows.
+      {"SimpMFWRS", TemplateContainer::F, {{"B124", 1}, {"System", 0}, {"SimplifiedAngle", 30}}},
+      {"SimpCompAndClad", TemplateContainer::F, {{"B124", 1}, {"System", 1}}},
   };
   return cases;
 }
