@@ -81,6 +81,9 @@ TEST(Pictures, SimplifiedProcedureFromTheDialogToTheReport) {
     EXPECT_TRUE(SavePicture(*dialog, QStringLiteral("simplified_dialog.png")));
     dialog->Command1_Click();
   });
+  QTimer::singleShot(5000, &window, [] {
+    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->done(0);
+  });
   window.RunCommand("mnuSimplified");
   EXPECT_TRUE(shown);
   EXPECT_TRUE(prompt.messages.empty()) << prompt.messages.front().text;

@@ -174,6 +174,18 @@ TEST(SimplifiedDialogTest, CancelKeepsWhatWasTypedUntilTheNextOk) {
   EXPECT_EQ(d.report.reports, 1);
 }
 
+TEST(SimplifiedDialogTest, AnotherProjectIsReadAfterACancel) {
+  DialogApp d;
+  d.state.currentFileName = "PROJECT1.GLN";
+  frmSimplified form(d.app);
+  form.show();
+  Field(form, "Text2")->setText("45");
+  form.reject();
+  d.state.currentFileName = "PROJECT2.GLN";
+  form.show();
+  EXPECT_EQ(Field(form, "Text2")->text(), "60");
+}
+
 TEST(SimplifiedDialogTest, TopographyWritesTheInputsButLeavesTheReportToTheDialog) {
   DialogApp d;
   frmSimplified form(d.app);

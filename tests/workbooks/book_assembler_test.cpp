@@ -74,8 +74,8 @@ TEST_F(BookAssemblerTest, BlockLandsAtItsAnchorWithReferencesFollowing) {
   EXPECT_EQ(book_.CellNumber(21, 4), 12);
 }
 
-// A table kept as data: the lines of one block, row keys down, column keys across, in the
-// order the file gives them; a damaged file stops the build at the directive.
+// A table kept as data: the lines of one block, row keys down, column keys across, whatever
+// the order of the lines; a damaged file stops the build at the directive.
 TEST_F(BookAssemblerTest, TableComesFromItsDataFile) {
   Write("book.book",
         "book Test\nsheet Main\ninclude block at Main!B3 with TITLE=\"Zone A, Case 1\"\n");
@@ -83,12 +83,12 @@ TEST_F(BookAssemblerTest, TableComesFromItsDataFile) {
         "param TITLE\ntable A2 speeds.csv angle speed psf where block=\"{TITLE}\" case=1\n");
   Write("speeds.csv",
         "block,case,angle,speed,psf\n"
-        "\"Zone A, Case 1\",1,5,90,12.8\n\"Zone A, Case 1\",1,5,85,11.5\n"
+        "\"Zone A, Case 1\",1,5,85,11.5\n\"Zone A, Case 1\",1,5,90,12.8\n"
         "\"Zone A, Case 1\",2,5,90,99\nOther,1,5,90,99\n"
         "\"Zone A, Case 1\",1,10,90,14.5\n\"Zone A, Case 1\",1,10,85,-12.9\n");
   Assemble();
   book_.SetActiveSheet(1);
-  const double expected[3][3] = {{0, 90, 85}, {5, 12.8, 11.5}, {10, 14.5, -12.9}};
+  const double expected[3][3] = {{0, 85, 90}, {5, 11.5, 12.8}, {10, -12.9, 14.5}};
   for (int r = 0; r < 3; ++r) {
     for (int c = 0; c < 3; ++c) {
       if (r + c == 0) continue;
@@ -99,13 +99,15 @@ TEST_F(BookAssemblerTest, TableComesFromItsDataFile) {
 
   const std::pair<const char*, const char*> faults[] = {
       {"block,case,angle,speed,psf\nOther,1,5,90,1\n", "no line of"},
-      {"block,case,angle,speed,psf\n\"Zone A, Case 1\",1,5,90,1\n\"Zone A, Case 1\",1,10,85,2\n",
-       "has no value for angle 5, speed 85"},
+      {"block,case,angle,speed,psf\n\"Zone A, Case 1\",1,5,85,1\n\"Zone A, Case 1\",1,10,90,2\n",
+       "has no value for angle 5, speed 90"},
       {"block,case,angle,speed,psf\n\"Zone A, Case 1\",1,5,90,1\n\"Zone A, Case 1\",1,5,90,2\n",
        "speeds.csv line 3 gives a value that an earlier line gave"},
       {"block,case,angle,speed,psf\n\"Zone A, Case 1\",1,5,90,x\n", "line 2: 'x' is not a number"},
       {"block,case,angle,speed\n", "has no column 'psf'"},
       {"block,case,angle,speed,psf\nOther,1\n", "line 2 has 2 fields, not 5"},
+      {"block,case,angle,speed,psf\n\"Zone A, Case 1\",1,10,90,1\n\"Zone A, Case 1\",1,5,90,2\n",
+       "do not ascend"},
   };
   for (const auto& [csv, expectedFault] : faults) {
     book_.ClearAll();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <utility>
 
@@ -60,6 +61,7 @@ CsvGrid ReadCsvGrid(const std::filesystem::path& file, const CsvGridColumns& col
   const std::size_t keyColumn = ColumnOf(heading, columns.columnKey, file, where);
   const std::size_t valueColumn = ColumnOf(heading, columns.value, file, where);
   std::vector<std::pair<std::size_t, std::string>> tests;
+  tests.reserve(filters.size());
   for (const auto& filter : filters)
     tests.emplace_back(ColumnOf(heading, filter.column, file, where), filter.value);
 
@@ -89,6 +91,11 @@ CsvGrid ReadCsvGrid(const std::filesystem::path& file, const CsvGridColumns& col
       throw SourceError(where, place + " gives a value that an earlier line gave");
   }
   if (cells.empty()) throw SourceError(where, "no line of '" + file.string() + "' matches");
+  // The lookups of a table search its keys in ascending order.
+  for (const auto* keys : {&grid.rowKeys, &grid.columnKeys}) {
+    if (std::adjacent_find(keys->begin(), keys->end(), std::greater_equal<>()) != keys->end())
+      throw SourceError(where, "the keys of '" + file.string() + "' do not ascend");
+  }
   grid.values.assign(grid.rowKeys.size(), std::vector<double>(grid.columnKeys.size()));
   for (std::size_t r = 0; r < grid.rowKeys.size(); ++r) {
     for (std::size_t c = 0; c < grid.columnKeys.size(); ++c) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "SourceText.h"
@@ -11,7 +12,8 @@ namespace gustline::books {
 // A table of numbers kept as comma-separated text with a heading line, read as a grid: one
 // column of the file gives the row keys, one the column keys and one the values, of the
 // lines whose other columns match the filter. Rows and columns stand in the order the file
-// first names them. Used where a table of the standard is data beside the book.
+// first names them, which must be ascending. Used where a table of the standard is data
+// beside the book.
 struct CsvGrid {
   std::vector<double> rowKeys;
   std::vector<double> columnKeys;

@@ -19,9 +19,9 @@
 #include "core/ProcessState.h"
 #include "core/RecentFiles.h"
 #include "geometry/qt/Geometry.h"
-#include "simplified/qt/frmSimplified.h"
 #include "report/qt/PrintPreview.h"
 #include "report/qt/ReportView.h"
+#include "simplified/qt/frmSimplified.h"
 
 namespace gustline {
 namespace {

@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QScopeGuard>
 #include <QUrl>
 
 #include "buildings/qt/Fig610.h"
@@ -111,10 +112,12 @@ void MainFrm::OpenSimplified() {
     simplified_->SetTopography([this](QWidget* /*over*/) {
       frmWindProp& form = WindPropertiesForm(*app_, this);
       form.SetFigureDialogs(ProcedureDialogs([this] { OpenGeometry(1); }));
+      // Shown modeless before, it comes back modal.
+      form.hide();
       form.SetReportOnLeave(false);
+      const auto restore = qScopeGuard([&form] { form.SetReportOnLeave(true); });
       form.TabSelect(kTopographyTab);
       form.exec();
-      form.SetReportOnLeave(true);
     });
     simplified_->SetHelp([this] { HelpContents(); }, [this] { HelpContents(); });
   }

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QEvent>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QShowEvent>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -114,7 +115,9 @@ void frmSimplified::showEvent(QShowEvent* event) {
 }
 
 void frmSimplified::Form_Activate() {
-  if (cancelled_) return;
+  // A cancelled dialog keeps what was typed, but not into another project.
+  if (cancelled_ && app_.state.currentFileName == cancelledProject_) return;
+  cancelled_ = false;
   try {
     ShowValues(LoadSimplified(app_.state.ProjectWorkbook()));
   } catch (const wb::FacilityError& error) {
@@ -142,15 +145,13 @@ void frmSimplified::Command1_Click() {
     ReportFacilityError(app_.prompt, error);
     return;
   }
-  if (!rules::CheckFields(app_.prompt, *this, kSimplifiedFields)) return;
-  cancelled_ = false;
-  AcceptPropertyValues(
-      *this, app_, [this](wb::Workbook& project) { SaveSimplified(project, Values()); },
-      !topographyOpen_);
+  const auto write = [this](wb::Workbook& project) { SaveSimplified(project, Values()); };
+  if (AcceptProperties(*this, app_, kSimplifiedFields, write)) cancelled_ = false;
 }
 
 void frmSimplified::reject() {
   cancelled_ = true;
+  cancelledProject_ = app_.state.currentFileName;
   QDialog::reject();
   app_.state.modifiedFlag = false;
   app_.view.SetStatusPanel(kHeightPanel, HeightPanelText(ui_->Text2->text().toStdString()));
@@ -160,10 +161,12 @@ void frmSimplified::Command3_Click() {
   if (!topography_) return;
   // The topography page writes the project's cells on leaving; the report waits for this
   // dialog, which reads the cells again when it comes back.
-  topographyOpen_ = true;
-  Leave();
-  topography_(this);
-  topographyOpen_ = false;
+  {
+    topographyOpen_ = true;
+    const auto closed = qScopeGuard([this] { topographyOpen_ = false; });
+    Leave();
+    topography_(this);
+  }
   Form_Activate();
 }
 
@@ -173,14 +176,13 @@ void frmSimplified::Command4_Click() {
   areas.SetHelp(areasHelp_);
   areas.exec();
   Form_Activate();
+  // The system chosen stands, whatever the areas dialog did.
   const int system = system_->checkedId();
-  if (system >= 0) {
-    system_->button(system)->setChecked(true);
-    try {
-      wb::WriteNamedInt(app_.state.ProjectWorkbook(), "System", system);
-    } catch (const wb::FacilityError& error) {
-      ReportFacilityError(app_.prompt, error);
-    }
+  if (system < 0) return;
+  try {
+    wb::WriteNamedInt(app_.state.ProjectWorkbook(), "System", system);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
   }
 }
 

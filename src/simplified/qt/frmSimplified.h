@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "simplified/SimplifiedValues.h"
 
@@ -17,7 +18,8 @@ namespace gustline {
 struct Application;
 
 // "Simplified Procedure- Design Parameters": every input of Method 1 in one place. It is
-// made once and kept: after Cancel it shows again what was typed, until an OK. Leaving it
+// made once and kept: after Cancel it shows again what was typed, until an OK or another
+// project. Leaving it
 // (OK, or opening the topography page or the areas dialog on top of it) writes the inputs
 // and the simplified switch B124; the report follows unless the topography page is open.
 // Option arrays: Option1_n system, Option3_n category I to IV, Option4_n exposure B, C, D.
@@ -62,6 +64,7 @@ class frmSimplified : public QDialog {
   QButtonGroup* category_;
   QButtonGroup* exposure_;
   bool cancelled_ = false;
+  std::string cancelledProject_;  // the project's name at the Cancel
   bool topographyOpen_ = false;
   std::function<void(QWidget*)> topography_;
   std::function<void()> help_;
