@@ -61,8 +61,8 @@ void QtApplicationView::ShowSplash(bool shown) {
     splash_->show();
     splash_->repaint();
     QApplication::processEvents();
-  } else if (splash_) {
-    splash_->finish(&window_);
+  } else if (splash_ && window_.isVisible()) {
+    splash_->close();
     splash_.reset();
   }
 }
@@ -70,6 +70,12 @@ void QtApplicationView::ShowSplash(bool shown) {
 void QtApplicationView::ShowMainWindow() {
   window_.show();
   window_.repaint();
+  // The splash stays until the window stands in its place. Finishing it against a window not
+  // yet shown would wait a second for the window to appear.
+  if (splash_) {
+    splash_->close();
+    splash_.reset();
+  }
 }
 
 void QtApplicationView::HideToolsMenu() {
