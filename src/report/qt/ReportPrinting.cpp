@@ -10,6 +10,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <cmath>
+#include <vector>
 
 #include "core/workbook/io/AtomicFile.h"
 #include "core/workbook/model/Sheet.h"
@@ -63,13 +64,21 @@ int ReportPageCount(wb::Workbook& book) {
 }
 
 void PrintPages(wb::Workbook& book, QPagedPaintDevice& device, int firstPage, int lastPage) {
-  const int pages = ReportPageCount(book);
+  // Each sheet is laid out once, for the count of pages and for all its pages.
+  book.EnsureCalculated();
+  std::vector<SheetPrintLayout> layouts;
+  int pages = 0;
+  for (int sheet = 1; sheet <= book.SheetCount(); ++sheet) {
+    layouts.push_back(LayOutSheetForPrint(book.GetSheet(sheet), book.Styles()));
+    pages += static_cast<int>(layouts.back().pages.size());
+  }
   if (firstPage < 1) firstPage = 1;
   if (lastPage < 1 || lastPage > pages) lastPage = pages;
   QPainter painter;
   int number = 0;
   for (int sheet = 1; sheet <= book.SheetCount(); ++sheet) {
-    const int sheetPages = SheetPageCount(book, sheet);
+    const SheetPrintLayout& layout = layouts[static_cast<std::size_t>(sheet - 1)];
+    const int sheetPages = static_cast<int>(layout.pages.size());
     for (int page = 0; page < sheetPages; ++page) {
       ++number;
       if (number < firstPage || number > lastPage) continue;
@@ -80,8 +89,8 @@ void PrintPages(wb::Workbook& book, QPagedPaintDevice& device, int firstPage, in
       } else {
         device.newPage();
       }
-      DrawSheetPage(painter, QRectF(0, 0, device.width(), device.height()), book, sheet, page,
-                    number, pages);
+      DrawSheetPage(painter, QRectF(0, 0, device.width(), device.height()), book, sheet, layout,
+                    page, number, pages);
     }
   }
   if (painter.isActive()) painter.end();

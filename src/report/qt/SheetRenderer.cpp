@@ -495,8 +495,14 @@ int SheetPageCount(wb::Workbook& book, int sheet) {
 void DrawSheetPage(QPainter& painter, const QRectF& target, wb::Workbook& book, int sheet, int page,
                    int number, int numberOfPages) {
   book.EnsureCalculated();
+  DrawSheetPage(painter, target, book, sheet,
+                LayOutSheetForPrint(book.GetSheet(sheet), book.Styles()), page, number,
+                numberOfPages);
+}
+
+void DrawSheetPage(QPainter& painter, const QRectF& target, wb::Workbook& book, int sheet,
+                   const SheetPrintLayout& layout, int page, int number, int numberOfPages) {
   const wb::Sheet& source = book.GetSheet(sheet);
-  const SheetPrintLayout layout = LayOutSheetForPrint(source, book.Styles());
   const int pageCount = static_cast<int>(layout.pages.size());
   page = std::clamp(page, 0, pageCount - 1);
   const wb::PrintSetup& setup = source.Print();

@@ -116,5 +116,9 @@ int SheetPageCount(wb::Workbook& book, int sheet);
 // is left at 0.
 void DrawSheetPage(QPainter& painter, const QRectF& target, wb::Workbook& book, int sheet, int page,
                    int number = 0, int numberOfPages = 0);
+// The same with the sheet's layout made beforehand, once for all its pages; the book is
+// calculated.
+void DrawSheetPage(QPainter& painter, const QRectF& target, wb::Workbook& book, int sheet,
+                   const SheetPrintLayout& layout, int page, int number = 0, int numberOfPages = 0);
 
 }  // namespace gustline::report
