@@ -6,22 +6,14 @@
 #include <QGuiApplication>
 #include <QPdfWriter>
 
+#include "OffscreenApplication.h"
 #include "core/workbook/model/Workbook.h"
 #include "report/qt/ReportPrinting.h"
 
 namespace {
 
-QGuiApplication& Gui() {
-  static int argc = 1;
-  static char name[] = "report_pdf_bench";
-  static char* argv[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QGuiApplication application(argc, argv);
-  return application;
-}
-
 void BM_LongReportPdf(benchmark::State& bench) {
-  Gui();
+  OffscreenApplication<QGuiApplication>();
   gustline::wb::Workbook book("Long");
   for (int row = 1; row <= 16000; ++row) {
     book.SetCellNumber(row, 1, row);

@@ -4,11 +4,11 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QByteArray>
 #include <filesystem>
 #include <memory>
 #include <string>
 
+#include "OffscreenApplication.h"
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
@@ -20,17 +20,8 @@
 
 namespace {
 
-QApplication& Gui() {
-  static int argc = 1;
-  static char name[] = "window_start_bench";
-  static char* argv[] = {name, nullptr};
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  static QApplication application(argc, argv);
-  return application;
-}
-
 void BM_WindowStart(benchmark::State& bench) {
-  Gui();
+  OffscreenApplication<QApplication>();
   const std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path().string();
   for (auto _ : bench) {
     gustline::ProcessState state;

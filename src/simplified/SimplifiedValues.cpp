@@ -14,9 +14,7 @@ SimplifiedValues LoadSimplified(wb::Workbook& project) {
   SimplifiedValues v;
   rules::LoadFields(project, kSimplifiedFields, v);
   v.system = std::min(wb::ReadNamedInt(project, "System"), 1);
-  const int category = wb::ReadNamedInt(project, "Category");
-  v.hurricane = category == 4;
-  v.categoryOption = category == 4 ? 0 : category;
+  SetCategory(v, wb::ReadNamedInt(project, "Category"));
   v.exposure = std::max(wb::ReadNamedInt(project, "Exposure"), 1);
   return v;
 }

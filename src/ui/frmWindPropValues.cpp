@@ -22,11 +22,6 @@ int CategoryValue(int categoryOption, bool hurricane) {
   return categoryOption == 0 && hurricane ? 4 : categoryOption;
 }
 
-void SetCategory(WindProperties& values, int category) {
-  values.hurricane = category == 4;
-  values.categoryOption = category == 4 ? 0 : category;
-}
-
 WindProperties LoadWindProperties(wb::Workbook& project) {
   WindProperties v;
   rules::LoadFields(project, kWindPropertiesFields, v);

@@ -96,8 +96,12 @@ inline constexpr int kTopographyTab = 4;
 
 // The stored `Category`: 4 is category I with "Hurricane Prone Region with V > 100" ticked.
 int CategoryValue(int categoryOption, bool hurricane);
-// Option and tick for a stored `Category`.
-void SetCategory(WindProperties& values, int category);
+// Option and tick for a stored `Category`, in the values of any dialog that shows it.
+template <typename Values>
+void SetCategory(Values& values, int category) {
+  values.hurricane = category == 4;
+  values.categoryOption = category == 4 ? 0 : category;
+}
 
 WindProperties LoadWindProperties(wb::Workbook& project);
 

@@ -9,8 +9,11 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
+#include <system_error>
 
 #include "GuiApp.h"
+#include "TempFolder.h"
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
@@ -29,18 +32,44 @@ bool SavePicture(QWidget& widget, const QString& name) {
   return widget.grab().save(QStringLiteral(GUSTLINE_PICTURES_DIR "/") + name);
 }
 
-TEST(Pictures, MainWindowWithTheDefaultReportAndItsPreview) {
-  testing::EnsureApplication();
+struct WithApplication {
+  WithApplication() { testing::EnsureApplication(); }
+};
+
+// The program started on its default project, its window 1100 points wide. Its folder is
+// its own, with the built workbooks linked in, since the start writes NORMAL.GLT there and
+// tests run side by side.
+struct StartedWindow : WithApplication {
+  explicit StartedWindow(int height) {
+    const std::filesystem::path built =
+        std::filesystem::path(QCoreApplication::applicationDirPath().toStdString()) / "workbooks";
+    std::filesystem::create_directories(folder);
+    std::filesystem::create_directory_symlink(built, folder / "workbooks");
+    window.SetApplication(&app);
+    window.resize(1100, height);
+    StartApplication(app, folder.string(), "");
+  }
+  ~StartedWindow() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+  }
+  StartedWindow(const StartedWindow&) = delete;
+  StartedWindow& operator=(const StartedWindow&) = delete;
+
+  std::filesystem::path folder = testing::UniqueTempFolder("gustline-pictures-");
   MainFrm window;
-  QtApplicationView view(window);
+  QtApplicationView view{window};
   ProcessState state;
   ScriptedPrompt prompt;
   MemorySettings settings;
   report::ReportGenerator report;
   Application app{state, view, prompt, settings, report};
-  window.SetApplication(&app);
-  window.resize(1100, 820);
-  StartApplication(app, QCoreApplication::applicationDirPath().toStdString(), "");
+};
+
+TEST(Pictures, MainWindowWithTheDefaultReportAndItsPreview) {
+  StartedWindow started(820);
+  MainFrm& window = started.window;
+  const ScriptedPrompt& prompt = started.prompt;
   QTest::qWait(50);
   EXPECT_TRUE(prompt.messages.empty()) << prompt.messages.front().text;
   EXPECT_EQ(window.windowTitle(), QStringLiteral(" Kestrel Ridge Gustline - [PROJECT1.GLN]"));
@@ -60,17 +89,9 @@ TEST(Pictures, MainWindowWithTheDefaultReportAndItsPreview) {
 // The worked example of the manual's simplified procedure: the toolbar button, components
 // and cladding chosen in the dialog, and the report OK builds.
 TEST(Pictures, SimplifiedProcedureFromTheDialogToTheReport) {
-  testing::EnsureApplication();
-  MainFrm window;
-  QtApplicationView view(window);
-  ProcessState state;
-  ScriptedPrompt prompt;
-  MemorySettings settings;
-  report::ReportGenerator report;
-  Application app{state, view, prompt, settings, report};
-  window.SetApplication(&app);
-  window.resize(1100, 1000);
-  StartApplication(app, QCoreApplication::applicationDirPath().toStdString(), "");
+  StartedWindow started(1000);
+  MainFrm& window = started.window;
+  const ScriptedPrompt& prompt = started.prompt;
   bool shown = false;
   QTimer::singleShot(50, &window, [&] {
     auto* dialog = qobject_cast<frmSimplified*>(QApplication::activeModalWidget());
@@ -87,7 +108,7 @@ TEST(Pictures, SimplifiedProcedureFromTheDialogToTheReport) {
   window.RunCommand("mnuSimplified");
   EXPECT_TRUE(shown);
   EXPECT_TRUE(prompt.messages.empty()) << prompt.messages.front().text;
-  EXPECT_EQ(report.TemplateName(), "SimpCompAndClad");
+  EXPECT_EQ(started.report.TemplateName(), "SimpCompAndClad");
   QTest::qWait(50);
   EXPECT_TRUE(SavePicture(window, QStringLiteral("simplified_report.png")));
 }

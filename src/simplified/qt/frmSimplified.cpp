@@ -22,6 +22,7 @@
 #include "simplified/qt/WindAreasFrm.h"
 #include "ui/frmWindPropStatus.h"
 #include "ui/rules/FieldNumber.h"
+#include "ui/rules/qt/FormFields.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_frmSimplified.h"
 
@@ -30,9 +31,9 @@ namespace gustline {
 frmSimplified::frmSimplified(Application& app, QWidget* parent)
     : QDialog(parent), app_(app), ui_(std::make_unique<Ui::frmSimplified>()) {
   ui_->setupUi(this);
-  system_ = Group("Option1", 2);
-  category_ = Group("Option3", 4);
-  exposure_ = Group("Option4", 3);
+  system_ = rules::OptionGroup(*this, "Option1", 2);
+  category_ = rules::OptionGroup(*this, "Option3", 4);
+  exposure_ = rules::OptionGroup(*this, "Option4", 3);
   for (QLineEdit* field : {ui_->Text1, ui_->Text2, ui_->Text6}) field->installEventFilter(this);
   SetHelp({}, {});
 
@@ -63,14 +64,6 @@ frmSimplified::frmSimplified(Application& app, QWidget* parent)
 }
 
 frmSimplified::~frmSimplified() = default;
-
-QButtonGroup* frmSimplified::Group(const char* array, int count) {
-  auto* group = new QButtonGroup(this);
-  for (int i = 0; i < count; ++i) {
-    group->addButton(findChild<QRadioButton*>(QString("%1_%2").arg(array).arg(i)), i);
-  }
-  return group;
-}
 
 void frmSimplified::SetTopography(std::function<void(QWidget*)> topography) {
   topography_ = std::move(topography);

@@ -55,7 +55,6 @@ class frmSimplified : public QDialog {
   void Leave();
   void SystemChosen(int system);
   void ShowAreaControls(int system);
-  QButtonGroup* Group(const char* array, int count);
   bool eventFilter(QObject* watched, QEvent* event) override;
 
   Application& app_;

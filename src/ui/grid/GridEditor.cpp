@@ -5,17 +5,13 @@
 #include "core/FacilityErrorReport.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextLines.h"
 
 namespace gustline::grid {
 
 std::string GridRowsText(std::string_view text) {
   std::string rows;
-  std::size_t pos = 0;
-  while (pos < text.size()) {
-    const std::size_t lineEnd = std::min(text.find('\n', pos), text.size());
-    std::string_view line = text.substr(pos, lineEnd - pos);
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    pos = lineEnd + 1;
+  for (const std::string_view line : wb::TextLines(text)) {
     if (line.find('\t') != std::string_view::npos) {
       rows += line;
     } else {

@@ -18,6 +18,7 @@
 #include "ui/frmWindPropScreens.h"
 #include "ui/frmWindPropStatus.h"
 #include "ui/rules/FieldNumber.h"
+#include "ui/rules/qt/FormFields.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_frmWindProp.h"
 
@@ -55,14 +56,14 @@ std::string Text(const QLineEdit* edit) {
 frmWindProp::frmWindProp(Application& app, QWidget* parent)
     : QDialog(parent), app_(app), ui_(std::make_unique<Ui::frmWindProp>()) {
   ui_->setupUi(this);
-  system_ = Group("Option1", 3);
-  structure_ = Group("Option2", 3);
-  category_ = Group("Option3", 4);
-  exposure_ = Group("Option4", 3);
-  gust_ = Group("Option5", 4);
-  hill_ = Group("Option6", 5);
-  enclosure_ = Group("Option7", 3);
-  ri_ = Group("Option8", 2);
+  system_ = rules::OptionGroup(*this, "Option1", 3);
+  structure_ = rules::OptionGroup(*this, "Option2", 3);
+  category_ = rules::OptionGroup(*this, "Option3", 4);
+  exposure_ = rules::OptionGroup(*this, "Option4", 3);
+  gust_ = rules::OptionGroup(*this, "Option5", 4);
+  hill_ = rules::OptionGroup(*this, "Option6", 5);
+  enclosure_ = rules::OptionGroup(*this, "Option7", 3);
+  ri_ = rules::OptionGroup(*this, "Option8", 2);
   for (const std::string& item : TableItems()) ui_->List2->addItem(QString::fromStdString(item));
   // The map viewer and the open-structure dialogs come with their own procedures.
   ui_->Command7->setEnabled(false);
@@ -109,15 +110,6 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
 }
 
 frmWindProp::~frmWindProp() = default;
-
-QButtonGroup* frmWindProp::Group(const char* array, int count) {
-  auto* group = new QButtonGroup(this);
-  for (int i = 0; i < count; ++i) {
-    const QString name = QString("%1_%2").arg(array).arg(i);
-    group->addButton(findChild<QRadioButton*>(name), i);
-  }
-  return group;
-}
 
 WindProperties frmWindProp::Values() const {
   WindProperties v = held_;

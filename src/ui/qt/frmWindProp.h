@@ -67,7 +67,6 @@ class frmWindProp : public QDialog {
   void UpdateStatus();
   void UpdateDensityLabels();
   void ReloadCarriedValues();
-  QButtonGroup* Group(const char* array, int count);
 
   Application& app_;
   std::unique_ptr<Ui::frmWindProp> ui_;

@@ -4,6 +4,7 @@
 #include "core/workbook/address/SheetRanges.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/TextLines.h"
 
 namespace gustline::wb {
 
@@ -22,12 +23,7 @@ void Workbook::SetNumberFormat(std::string_view format) {
 void Workbook::SetClipText(std::string_view text) {
   const int firstCol = SelFirstCol();
   int row = SelFirstRow();
-  std::size_t pos = 0;
-  while (pos < text.size()) {
-    const std::size_t lineEnd = std::min(text.find('\n', pos), text.size());
-    std::string_view line = text.substr(pos, lineEnd - pos);
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    pos = lineEnd + 1;
+  for (std::string_view line : TextLines(text)) {
     // Fields beyond the edge of the sheet fall away.
     for (int col = firstCol; row <= kMaxRow && col <= kMaxCol; ++col) {
       const std::size_t tab = std::min(line.find('\t'), line.size());

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
 #include <stdexcept>
 
 #include "ui/rules/CheckForm.h"
@@ -152,6 +153,16 @@ bool CheckControls(Prompt& prompt, QWidget& form, const std::vector<ControlRule>
   walk.reserve(fields.size());
   for (TextBoxRule& field : fields) walk.push_back(&field);
   return CheckForm(prompt, walk);
+}
+
+QButtonGroup* OptionGroup(QWidget& form, std::string_view array, int count) {
+  auto* group = new QButtonGroup(&form);
+  for (int i = 0; i < count; ++i) {
+    const QString name = QString::fromUtf8(array.data(), static_cast<qsizetype>(array.size())) +
+                         QStringLiteral("_") + QString::number(i);
+    group->addButton(form.findChild<QRadioButton*>(name), i);
+  }
+  return group;
 }
 
 }  // namespace gustline::rules

@@ -9,6 +9,7 @@
 
 #include "ui/rules/FormField.h"
 
+class QButtonGroup;
 class QWidget;
 
 namespace gustline {
@@ -29,6 +30,10 @@ void ReadControl(const QWidget& form, std::string_view control, int firstOption,
 void ShowControl(QWidget& form, std::string_view control, int firstOption, const std::string& text);
 void ShowControl(QWidget& form, std::string_view control, int firstOption, bool ticked);
 void ShowControl(QWidget& form, std::string_view control, int firstOption, int index);
+
+// The option array NAME_0 .. NAME_(count-1) of the form as one exclusive group, owned by the
+// form, each option with its index as id.
+QButtonGroup* OptionGroup(QWidget& form, std::string_view array, int count);
 
 // CheckForm over the text boxes named, each with its rule, in the order given.
 using ControlRule = std::pair<std::string_view, std::string_view>;
