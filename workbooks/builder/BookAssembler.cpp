@@ -140,6 +140,8 @@ void BookAssembler::Directive(const SourceLine& line, const std::vector<std::str
     section = Section::Grid;
   } else if (keyword == "table") {
     PlaceTable(line, words, frame);
+  } else if (keyword == "fill") {
+    FillRange(line, words, frame);
   } else if (keyword == "name") {
     DefineNameDirective(line, frame);
   } else if (keyword == "include") {
@@ -346,6 +348,23 @@ void BookAssembler::PlaceTable(const SourceLine& line, std::vector<std::string> 
     put(r + 1, 0, grid.rowKeys[r]);
     for (std::size_t c = 0; c < grid.columnKeys.size(); ++c) put(r + 1, c + 1, grid.values[r][c]);
   }
+}
+
+// The formula is read at the range's first cell and written into every cell of the range,
+// its relative references following, as a formula copied across a range does.
+void BookAssembler::FillRange(const SourceLine& line, std::vector<std::string> words,
+                              const Frame& frame) {
+  if (frame.isBook) JoinQualifiedWord(words, 1);
+  const auto equals = line.text.find('=');
+  if (words.size() < 3 || equals == std::string::npos)
+    throw SourceError(line.where, "usage: fill RANGE =FORMULA");
+  const PlacedArea placed = LocateArea(line.where, words[1], frame);
+  const int authoredRow = placed.area.firstRow - frame.anchorRow + 1;
+  const int authoredCol = placed.area.firstCol - frame.anchorCol + 1;
+  const std::string formula = Trimmed(line.text.substr(equals + 1));
+  for (int row = placed.area.firstRow; row <= placed.area.lastRow; ++row)
+    for (int col = placed.area.firstCol; col <= placed.area.lastCol; ++col)
+      PutFormula({placed.sheet, row, col}, authoredRow, authoredCol, formula, line.where);
 }
 
 BookAssembler::Placement BookAssembler::Locate(const SourceLocation& where, const std::string& text,

@@ -92,6 +92,7 @@ class BookAssembler {
   // "table CELL FILE ROW-KEY COLUMN-KEY VALUE [where COLUMN=VALUE ...]": a grid read from
   // a comma-separated file beside the source, column keys right of CELL, row keys below it.
   void PlaceTable(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
+  void FillRange(const SourceLine& line, std::vector<std::string> words, const Frame& frame);
 
   // A cell text of the frame ("B4", or "Sheet3!B4" in a book) as a sheet cell.
   Placement Locate(const SourceLocation& where, const std::string& text, const Frame& frame,
