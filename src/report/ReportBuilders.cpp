@@ -176,7 +176,7 @@ void BuildFigure617(const wb::Workbook& templateBook, const BuildContext& contex
   wb::Workbook& report = context.report;
   FillHeightTable(report, "Start", "TopRow", heights.rows, heights.text);
   FillHeightTable(report, "Start1", "TopRow1", heights.rows, heights.text);
-  if (wb::ReadNamedNumber(context.project, "Figure68Angle") < 10)
+  if (wb::ReadNamedNumber(context.project, "Figure68Angle") <= 10)
     ClearNamedRange(report, templateBook, "AddTable");
   if (!HasParapet(context, "HasParapets")) {
     // The pages after the parapet page take the numbers of their places.

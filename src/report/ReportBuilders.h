@@ -39,7 +39,7 @@ enum class ReportBuilder {
   SimplifiedMwfrs,
   // CaseCRows, the rows of Case C, hidden while the aspect ratio B/s is under 2.
   SolidSigns,
-  // Two pressures tables, Start/TopRow and Start1/TopRow1; AddTable, cleared below 10
+  // Two pressures tables, Start/TopRow and Start1/TopRow1; AddTable, cleared up to 10
   // degrees; ParapetPage, which goes without parapets, the pages after it renumbered.
   Figure617,
   // Figure 6-21, templates Figure619x: the pressures table Start/TopRow, StartDiam for the
