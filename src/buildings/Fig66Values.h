@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "buildings/QiChoice.h"
 #include "ui/rules/FormField.h"
 
 namespace gustline::wb {
@@ -58,11 +59,6 @@ inline constexpr rules::FormField<Fig66Values> kFig66Fields[] = {
     {.control = "Check1", .member = &Fig66Values::hasParapet, .cell = "HasParapet"},
     {.control = "Text7", .member = &Fig66Values::parapetElevation, .cell = "ParapetElevation"},
 };
-
-// qi may be taken at a height z only for partially enclosed buildings.
-inline bool QiChoiceEnabled(int table64) {
-  return table64 == 1;
-}
 
 // Reads the dialog's cells; for a class other than partially enclosed it writes
 // `Fig63UseQi` 0 at once.
