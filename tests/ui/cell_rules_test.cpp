@@ -38,6 +38,10 @@ TEST(CellRulesTest, InputsAreTestedInTheFieldsUnit) {
       {"HillX", "0.5", false, "Valid value must be greater or equal to 1"},
       {"Figure63Area", "0.5", false, "Valid values are numbers from 1.000 to 10000.000"},
       {"Figure64Angle", "91", false, "Valid values are numbers from 0.000 to 90.000"},
+      {"Figure67BAngle", "45.5", false, "Valid values are numbers from 0.000 to 45.000"},
+      {"Figure65BAngle", "45", true, ""},
+      {"Figure67AZ3p", "0.5", false, "Valid values are numbers from 1.000 to 1000.000"},
+      {"Figure68Angle", "-1", false, "Valid values are numbers from 0.000 to 45.000"},
       {"System", "3", true, ""},
   };
   for (const Case& c : cases) {

@@ -8,6 +8,8 @@
 #include <QUrl>
 
 #include "buildings/qt/Fig610.h"
+#include "buildings/qt/Fig611.h"
+#include "buildings/qt/Fig617.h"
 #include "buildings/qt/Fig66.h"
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
@@ -34,11 +36,19 @@ namespace {
 // coefficients and topography tabs. The other figures come with their procedures.
 FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   FigureDialogs dialogs;
-  dialogs.figures[FigureDialog::Fig66] = [wallGeometry](Application& app, QWidget* parent) {
+  dialogs.figures[FigureDialog::Fig66] = [wallGeometry](Application& app, int /*figure*/,
+                                                        QWidget* parent) {
     Fig66(app, wallGeometry, parent).exec();
   };
-  dialogs.figures[FigureDialog::Fig610] = [](Application& app, QWidget* parent) {
+  dialogs.figures[FigureDialog::Fig610] = [](Application& app, int /*figure*/, QWidget* parent) {
     Fig610(app, parent).exec();
+  };
+  // The entries of Figures 6-11 to 6-15 open the one dialog at their roof type.
+  dialogs.figures[FigureDialog::Fig611] = [](Application& app, int figure, QWidget* parent) {
+    Fig611(app, Fig611RoofType(figure), parent).exec();
+  };
+  dialogs.figures[FigureDialog::Fig617] = [](Application& app, int /*figure*/, QWidget* parent) {
+    Fig617(app, parent).exec();
   };
   dialogs.topography = [](QWidget* parent) { frmTopography(parent).exec(); };
   return dialogs;

@@ -298,7 +298,7 @@ void frmWindProp::Command10_Click() {
                         CheckedOr(enclosure_, held_.table64));
     }
     const auto dialog = figureDialogs_.figures.find(choice.dialog);
-    if (dialog != figureDialogs_.figures.end()) dialog->second(app_, this);
+    if (dialog != figureDialogs_.figures.end()) dialog->second(app_, choice.figure, this);
     ReloadCarriedValues();
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_.prompt, error);

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "buildings/Fig610Values.h"
+#include "buildings/Fig611Values.h"
+#include "buildings/Fig617Values.h"
 #include "buildings/Fig66Values.h"
 #include "core/workbook/value/NumberFormat.h"
 #include "core/workbook/value/TextCompare.h"
@@ -26,6 +28,15 @@ void AddRules(std::vector<CellRule>& rules, std::string_view dialog,
   }
 }
 
+// The roof angle of Figures 6-11 to 6-15 writes the cell of the roof type chosen, and zones
+// 2' and 3' the cells of monoslope roofs.
+void AddFig611Rules(std::vector<CellRule>& rules) {
+  for (const Fig611RoofCells& roof : kFig611RoofCells)
+    rules.push_back({"Fig611", "Text6", roof.angle, kFig611AngleRule, 1});
+  rules.push_back({"Fig611", "Text7", kZone2pCell, kFig611PrimeZoneRule, 1});
+  rules.push_back({"Fig611", "Text8", kZone3pCell, kFig611PrimeZoneRule, 1});
+}
+
 }  // namespace
 
 std::span<const CellRule> CellRules() {
@@ -35,6 +46,8 @@ std::span<const CellRule> CellRules() {
     AddRules(gathered, "frmWindProp", kWindPropertiesFields);
     AddRules(gathered, "Fig66", kFig66Fields);
     AddRules(gathered, "Fig610", kFig610Fields);
+    AddFig611Rules(gathered);
+    AddRules(gathered, "Fig617", kFig617Fields);
     AddRules(gathered, "frmSimplified", kSimplifiedFields);
     AddRules(gathered, "WindAreasFrm", kWindAreasFields);
     return gathered;

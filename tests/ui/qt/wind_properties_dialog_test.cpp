@@ -4,6 +4,8 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <utility>
+#include <vector>
 
 #include "DialogTesting.h"
 #include "ui/qt/frmWindProp.h"
@@ -185,6 +187,44 @@ TEST(WindPropertiesDialogTest, TallLowRiseBuildingCannotOpenFigure610) {
   ASSERT_EQ(d.prompt.messages.size(), 1u);
   EXPECT_EQ(d.prompt.messages[0].title, "Height Range Error");
   EXPECT_EQ(form.findChild<QTabWidget*>("SSTab1")->currentIndex(), 5);
+}
+
+struct FigureEntryCase {
+  int structure;
+  const char* height;
+  int row;
+  FigureDialog dialog;
+  int figure;
+};
+
+TEST(WindPropertiesDialogTest, PropertiesOpensTheFigureDialogOfTheEntryWithItsFigure) {
+  const FigureEntryCase cases[] = {
+      {0, "60", 0, FigureDialog::Fig611, 3}, {0, "60", 1, FigureDialog::Fig611, 4},
+      {0, "60", 2, FigureDialog::Fig611, 5}, {0, "60", 3, FigureDialog::Fig611, 6},
+      {1, "80", 0, FigureDialog::Fig617, 7},
+  };
+  for (const FigureEntryCase& c : cases) {
+    SCOPED_TRACE(c.figure);
+    DialogApp d;
+    wb::WriteNamedNumber(d.Project(), "System", 1);
+    wb::WriteNamedNumber(d.Project(), "Structure", c.structure);
+    frmWindProp form(d.app);
+    std::vector<std::pair<FigureDialog, int>> opened;
+    FigureDialogs dialogs;
+    for (const FigureDialog dialog : {FigureDialog::Fig611, FigureDialog::Fig617}) {
+      dialogs.figures[dialog] = [&opened, dialog](Application&, int figure, QWidget*) {
+        opened.emplace_back(dialog, figure);
+      };
+    }
+    form.SetFigureDialogs(dialogs);
+    form.show();
+    Field(form, "Text1")->setText(c.height);
+    form.findChild<QListWidget*>("List1")->setCurrentRow(c.row);
+    form.Command10_Click();
+    ASSERT_EQ(opened.size(), 1u);
+    EXPECT_EQ(opened[0].first, c.dialog);
+    EXPECT_EQ(opened[0].second, c.figure);
+  }
 }
 
 }  // namespace
