@@ -5,35 +5,24 @@
 // table value.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <regex>
 #include <string>
 #include <vector>
 
 #include "BuiltWindData.h"
-#include "CsvTable.h"
+#include "CsvLines.h"
 
 namespace gustline::books::testing {
 namespace {
 
-std::vector<std::vector<std::string>> ReadCsv(const std::string& path) {
-  std::ifstream in(path);
-  std::vector<std::vector<std::string>> lines;
-  std::string line;
-  std::getline(in, line);
-  while (std::getline(in, line))
-    if (!line.empty()) lines.push_back(SplitCsvLine(line));
-  return lines;
-}
-
 TEST(SimplifiedTablesTest, LookupsGiveTheValuesOfTheFigures) {
   // Where each table's lookup leaves its result, from the book's own data file.
   std::map<std::string, std::string> resultCell;
-  for (const auto& fields : ReadCsv(GUSTLINE_WINDDATA_SOURCE_DIR "/simplified-tables.csv"))
+  for (const auto& fields : ReadCsvLines(GUSTLINE_WINDDATA_SOURCE_DIR "/simplified-tables.csv"))
     resultCell[fields[0]] = fields[1];
 
-  const auto checks = ReadCsv(GUSTLINE_TEST_DATA_DIR "/simplified-check-values.csv");
+  const auto checks = ReadCsvLines(GUSTLINE_TEST_DATA_DIR "/simplified-check-values.csv");
   ASSERT_EQ(checks.size(), 301u);
   auto book = OpenBuiltWindData();
   const std::regex zone("Zone ([1-5])");
