@@ -47,6 +47,22 @@ const std::vector<Case>& Cases() {
       // The simplified procedure, at a roof steeper than 25 degrees so that Load Case 2 shows.
       {"SimpMFWRS", TemplateContainer::F, {{"B124", 1}, {"System", 0}, {"SimplifiedAngle", 30}}},
       {"SimpCompAndClad", TemplateContainer::F, {{"B124", 1}, {"System", 1}}},
+      // Components and cladding, with the parapet page; Figure 6-17 above 60 ft.
+      {"Figure611B",
+       TemplateContainer::D,
+       {{"System", 1}, {"Structure", 0}, {"Figure", 3}, {"HasParapet", 1}}},
+      {"Figure613",
+       TemplateContainer::D,
+       {{"System", 1}, {"Structure", 0}, {"Figure", 4}, {"HasParapet", 1}}},
+      {"Figure614A",
+       TemplateContainer::D,
+       {{"System", 1}, {"Structure", 0}, {"Figure", 5}, {"HasParapet", 1}}},
+      {"Figure614B",
+       TemplateContainer::D,
+       {{"System", 1}, {"Structure", 0}, {"Figure", 6}, {"HasParapet", 1}}},
+      {"Figure617",
+       TemplateContainer::D,
+       {{"System", 1}, {"Structure", 1}, {"Figure", 7}, {"Height", 100}, {"HasParapet", 1}}},
   };
   return cases;
 }
