@@ -18,10 +18,10 @@ namespace {
 
 // Where a figure's inputs and results stand in WindData.
 struct Figure {
-  std::string angle;     // the roof angle's name; empty for the walls
-  std::string area;      // the areas' name before the zone number
-  std::string result;    // the results' names before the zone
-  bool wall = false;     // the results are named Wall4, Wall5 rather than Zone1 ...
+  std::string angle;   // the roof angle's name; empty for the walls
+  std::string area;    // the areas' name before the zone number
+  std::string result;  // the results' names before the zone
+  bool wall = false;   // the results are named Wall4, Wall5 rather than Zone1 ...
 };
 
 const std::map<std::string, Figure>& Figures() {
@@ -56,8 +56,8 @@ TEST(CladdingTablesTest, LookupsGiveTheValuesOfTheFigures) {
     const std::string& band = check[3];
     const std::string& column = check[4];
     const double expected = std::stod(check[5]);
-    const std::string where = figureName + " zone " + check[1] + " at " + check[2] + ", band " +
-                              band + ", " + column;
+    const std::string where =
+        figureName + " zone " + check[1] + " at " + check[2] + ", band " + band + ", " + column;
     ASSERT_TRUE(Figures().contains(figureName)) << where;
     const Figure& figure = Figures().at(figureName);
     const bool wall = figure.wall || zone == "4" || zone == "5";
@@ -74,8 +74,8 @@ TEST(CladdingTablesTest, LookupsGiveTheValuesOfTheFigures) {
     const std::string result = figure.result + (wall ? "Wall" : "Zone") + zone + suffix.at(column);
 
     const wb::Value value = NamedValue(*book, result);
-    const bool sawtoothQuirk = figureName == "6-15" && zone == "3" && band == "10" &&
-                               area >= 1000 && column != "spanA";
+    const bool sawtoothQuirk =
+        figureName == "6-15" && zone == "3" && band == "10" && area >= 1000 && column != "spanA";
     if ((figureName == "6-11A" && area >= 10000) || sawtoothQuirk) {
       EXPECT_TRUE(value.IsError()) << where;
       continue;
