@@ -139,7 +139,8 @@ TEST_F(FormulaEvalTest, LogicFunctions) {
          {"ISTEXT(B1)", B(true)},
          {"ISNA(D4)", B(true)},
          {"ISNA(1/0)", B(false)},
-         {"ISNA(MATCH(0.5,A1:A5))", B(true)}});
+         {"ISNA(MATCH(0.5,A1:A5))", B(true)},
+         {"ISNA(NA())", B(true)}});
 }
 
 TEST_F(FormulaEvalTest, LookupFunctions) {

@@ -11,6 +11,7 @@ Operand And(Evaluator& ev, const Formula::Node& node);
 Operand Choose(Evaluator& ev, const Formula::Node& node);
 Operand If(Evaluator& ev, const Formula::Node& node);
 Operand IsNa(Evaluator& ev, const Formula::Node& node);
+Operand Na(Evaluator& ev, const Formula::Node& node);
 Operand IsNumber(Evaluator& ev, const Formula::Node& node);
 Operand IsText(Evaluator& ev, const Formula::Node& node);
 Operand Or(Evaluator& ev, const Formula::Node& node);

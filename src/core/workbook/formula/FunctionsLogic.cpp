@@ -74,4 +74,9 @@ Operand IsNa(Evaluator& ev, const Formula::Node& node) {
   return Operand::Of(Value::Boolean(value.IsError() && value.AsError() == ErrorCode::NA));
 }
 
+// NA() marks a value that does not apply, as a table does outside its range.
+Operand Na(Evaluator& /*ev*/, const Formula::Node& /*node*/) {
+  return ErrorOperand(ErrorCode::NA);
+}
+
 }  // namespace gustline::wb::functions

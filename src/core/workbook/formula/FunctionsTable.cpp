@@ -27,6 +27,7 @@ constexpr FunctionInfo kFunctions[] = {
     {"MATCH", 2, 3, functions::Match},
     {"MAX", 1, kMany, functions::Max},
     {"MIN", 1, kMany, functions::Min},
+    {"NA", 0, 0, functions::Na},
     {"NOW", 0, 0, functions::Now},
     {"OR", 1, kMany, functions::Or},
     {"ROUND", 2, 2, functions::Round},
