@@ -42,6 +42,8 @@ TEST(CellRulesTest, InputsAreTestedInTheFieldsUnit) {
       {"Figure65BAngle", "45", true, ""},
       {"Figure67AZ3p", "0.5", false, "Valid values are numbers from 1.000 to 1000.000"},
       {"Figure68Angle", "-1", false, "Valid values are numbers from 0.000 to 45.000"},
+      {"Table66Angle", "45.5", false, "Valid values are numbers from 0.000 to 45.000"},
+      {"Dimension_a", "-1", true, ""},  // Figure 6-19 writes it unchecked
       {"System", "3", true, ""},
   };
   for (const Case& c : cases) {

@@ -11,6 +11,7 @@
 #include "core/workbook/value/TextCompare.h"
 #include "simplified/SimplifiedValues.h"
 #include "simplified/WindAreasValues.h"
+#include "structures/Figure618Values.h"
 #include "ui/frmWindPropValues.h"
 #include "ui/rules/CheckRule.h"
 #include "ui/rules/FieldNumber.h"
@@ -40,7 +41,8 @@ void AddFig611Rules(std::vector<CellRule>& rules) {
 }  // namespace
 
 std::span<const CellRule> CellRules() {
-  // Every dialog whose text boxes write the project's cells.
+  // Every dialog whose text boxes write the project's cells and are checked at OK; the boxes
+  // of Figure 6-19 carry limits that its OK never checks, and so limit no cell.
   static const std::vector<CellRule> rules = [] {
     std::vector<CellRule> gathered;
     AddRules(gathered, "frmWindProp", kWindPropertiesFields);
@@ -48,6 +50,7 @@ std::span<const CellRule> CellRules() {
     AddRules(gathered, "Fig610", kFig610Fields);
     AddFig611Rules(gathered);
     AddRules(gathered, "Fig617", kFig617Fields);
+    AddRules(gathered, "Figure618", kFigure618Fields);
     AddRules(gathered, "frmSimplified", kSimplifiedFields);
     AddRules(gathered, "WindAreasFrm", kWindAreasFields);
     return gathered;
