@@ -1,5 +1,7 @@
 #include "ui/frmWindPropScreens.h"
 
+#include <iterator>
+
 #include "core/ProcessState.h"
 
 namespace gustline {
@@ -181,6 +183,12 @@ FigureChoice FigureChoiceOf(std::string_view item) {
     if (item.find(entry.substring) != std::string_view::npos) return entry.choice;
   }
   return {};
+}
+
+TableDialog TableDialogOf(int row) {
+  constexpr TableDialog kByRow[] = {TableDialog::Figure618, TableDialog::Fig619};
+  if (row < 0 || row >= static_cast<int>(std::size(kByRow))) return TableDialog::None;
+  return kByRow[row];
 }
 
 std::optional<Message> HeightRangeError(HeightRule rule, double height) {

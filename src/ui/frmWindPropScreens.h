@@ -57,6 +57,11 @@ struct FigureChoice {
 };
 FigureChoice FigureChoiceOf(std::string_view item);
 
+// The dialogs that Command5 opens, by the row of the List2 entry chosen; the entries after
+// the free roofs open nothing yet.
+enum class TableDialog { None, Figure618, Fig619 };
+TableDialog TableDialogOf(int row);
+
 // The "Height Range Error" box when the height does not fit the figure's rule.
 std::optional<Message> HeightRangeError(HeightRule rule, double height);
 

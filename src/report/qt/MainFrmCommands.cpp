@@ -26,6 +26,8 @@
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
 #include "simplified/qt/frmSimplified.h"
+#include "structures/qt/Fig619.h"
+#include "structures/qt/Figure618.h"
 #include "ui/qt/frmNew.h"
 #include "ui/qt/frmWindProp.h"
 
@@ -33,7 +35,8 @@ namespace gustline {
 namespace {
 
 // The figure dialogs of the procedures, which the wind properties dialog opens from its
-// coefficients and topography tabs. The other figures come with their procedures.
+// coefficients and topography tabs. The other figures and tables come with their
+// procedures.
 FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   FigureDialogs dialogs;
   dialogs.figures[FigureDialog::Fig66] = [wallGeometry](Application& app, int /*figure*/,
@@ -49,6 +52,12 @@ FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   };
   dialogs.figures[FigureDialog::Fig617] = [](Application& app, int /*figure*/, QWidget* parent) {
     Fig617(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Figure618] = [](Application& app, QWidget* parent) {
+    Figure618(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Fig619] = [](Application& app, QWidget* parent) {
+    Fig619(app, parent).exec();
   };
   dialogs.topography = [](QWidget* parent) { frmTopography(parent).exec(); };
   return dialogs;

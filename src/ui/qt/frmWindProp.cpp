@@ -65,7 +65,7 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
   enclosure_ = rules::OptionGroup(*this, "Option7", 3);
   ri_ = rules::OptionGroup(*this, "Option8", 2);
   for (const std::string& item : TableItems()) ui_->List2->addItem(QString::fromStdString(item));
-  // The map viewer and the open-structure dialogs come with their own procedures.
+  // The map viewer comes with its own procedure.
   ui_->Command7->setEnabled(false);
   SetFigureDialogs({});
 
@@ -102,6 +102,8 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
   });
   connect(ui_->List1, &QListWidget::itemDoubleClicked, this, [this] { Command10_Click(); });
   connect(ui_->Command10, &QPushButton::clicked, this, [this] { Command10_Click(); });
+  connect(ui_->List2, &QListWidget::itemDoubleClicked, this, [this] { Command5_Click(); });
+  connect(ui_->Command5, &QPushButton::clicked, this, [this] { Command5_Click(); });
   connect(ui_->Command8, &QPushButton::clicked, this, [this] {
     if (figureDialogs_.topography) figureDialogs_.topography(this);
   });
@@ -299,6 +301,17 @@ void frmWindProp::Command10_Click() {
     }
     const auto dialog = figureDialogs_.figures.find(choice.dialog);
     if (dialog != figureDialogs_.figures.end()) dialog->second(app_, choice.figure, this);
+    ReloadCarriedValues();
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+  }
+}
+
+void frmWindProp::Command5_Click() {
+  const auto dialog = figureDialogs_.tables.find(TableDialogOf(ui_->List2->currentRow()));
+  if (dialog == figureDialogs_.tables.end()) return;
+  try {
+    dialog->second(app_, this);
     ReloadCarriedValues();
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_.prompt, error);

@@ -47,9 +47,10 @@ class frmWindProp : public QDialog {
 
   void Command1_Click();
   void Command10_Click();
+  void Command5_Click();
 
-  // The figure and topography dialogs that Command10 and Command8 open; without one the
-  // button does nothing, and Command8 is off.
+  // The figure, table and topography dialogs that Command10, Command5 and Command8 open;
+  // without one the button does nothing, and Command8 is off.
   void SetFigureDialogs(FigureDialogs dialogs);
 
   // The simplified dialog, which opens this one on its topography tab, builds the report

@@ -227,5 +227,34 @@ TEST(WindPropertiesDialogTest, PropertiesOpensTheFigureDialogOfTheEntryWithItsFi
   }
 }
 
+TEST(WindPropertiesDialogTest, TablePropertiesOpensTheFreeRoofDialogsByRow) {
+  DialogApp d;
+  wb::WriteNamedNumber(d.Project(), "System", 2);
+  frmWindProp form(d.app);
+  std::vector<TableDialog> opened;
+  FigureDialogs dialogs;
+  for (const TableDialog dialog : {TableDialog::Figure618, TableDialog::Fig619}) {
+    dialogs.tables[dialog] = [&opened, dialog](Application& app, QWidget*) {
+      opened.push_back(dialog);
+      wb::WriteNamedNumber(app.state.ProjectWorkbook(), "Table66RoofType", 4);
+    };
+  }
+  form.SetFigureDialogs(dialogs);
+  form.show();
+  auto* list = form.findChild<QListWidget*>("List2");
+  for (int row = 0; row < list->count(); ++row) {
+    list->setCurrentRow(row);
+    form.Command5_Click();
+  }
+  list->setCurrentRow(0);  // the first click of a double click
+  emit list->itemDoubleClicked(list->item(0));
+  const std::vector<TableDialog> expected = {TableDialog::Figure618, TableDialog::Fig619,
+                                             TableDialog::Figure618};
+  EXPECT_EQ(opened, expected);
+  // The roof type chosen there survives the OK of this dialog.
+  form.Command1_Click();
+  EXPECT_EQ(d.Number("Table66RoofType"), 4);
+}
+
 }  // namespace
 }  // namespace gustline
