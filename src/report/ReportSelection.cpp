@@ -3,15 +3,13 @@
 #include <array>
 
 #include "core/workbook/model/NamedCells.h"
+#include "structures/FreeRoof.h"
 
 namespace gustline::report {
 namespace {
 
 using enum TemplateContainer;
 
-constexpr const char* kNote5RangeText =
-    "Structure height \\ Structure width out of range for Note 5 to apply.  Valid range is "
-    "0.05 to 0.25";
 constexpr const char* kRatioRangeText =
     "Structure height / Structure width must be greater than or equal to 0.25 and less than "
     "or equal to 1.0 ";
@@ -81,7 +79,7 @@ std::optional<RangeRefusal> CheckRatio(const SelectionInputs& in) {
   if (in.table < 0 || in.table > 2) return std::nullopt;
   if (in.table <= 1 && in.note5) {
     if (RatioWithin(in, 0.05, 0.25)) return std::nullopt;
-    return RangeRefusal{Message{"Error", kNote5RangeText, PromptIcon::Exclamation}};
+    return RangeRefusal{Note5RatioRefusal()};
   }
   if (RatioWithin(in, 0.25, 1.0)) return std::nullopt;
   return RangeRefusal{Message{"Error", kRatioRangeText, PromptIcon::Stop}};

@@ -33,11 +33,7 @@ std::optional<Message> Figure618Refusal(const Figure618Values& v, double height,
   if (angle >= 5) return Refusal("Roof angle must be less than 5 degrees for Note 5 to apply.");
   // A zero width gives no ratio, and is refused with the others.
   const double ratio = height / width;
-  if (!(ratio >= 0.05 && ratio <= 0.25)) {
-    return Refusal(
-        "Structure height \\ Structure width out of range for Note 5 to apply.  Valid range is "
-        "0.05 to 0.25");
-  }
+  if (!(ratio >= 0.05 && ratio <= 0.25)) return Note5RatioRefusal();
   return std::nullopt;
 }
 

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "core/Prompt.h"
+
 namespace gustline {
 
 // The roof of an open building's free roof, shared by the dialogs of Figures 6-18 and 6-19:
@@ -18,6 +20,10 @@ struct FreeRoof {
   static constexpr int kTroughed = 3;
   static constexpr int kAllShapes = 4;  // Figure 6-18D
 };
+
+// Note 5 of Figure 6-18D holds for 0.05 <= h/L <= 0.25: the box that refuses it elsewhere,
+// in the dialog and at report time alike.
+Message Note5RatioRefusal();
 
 // The slider beside the angle box, in whole degrees from 0 to 45, takes the whole part of
 // the box's number; a box without a number puts it at 0.
