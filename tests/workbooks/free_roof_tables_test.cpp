@@ -41,8 +41,12 @@ int Figure619Row(const std::string& roof, ZoneBand where, const std::string& flo
          (flow == "obstructed" ? 17 : 0);
 }
 
-double Expect(const wb::Value& value, const std::string& where) {
-  EXPECT_TRUE(value.IsNumber()) << where;
+// The number in a cell of Sheet7, by column letter and row.
+double Sheet7Number(wb::Workbook& book, const char* column, int row) {
+  std::string cell(column);
+  cell += std::to_string(row);
+  const wb::Value value = CellAt(book, "Sheet7", cell);
+  EXPECT_TRUE(value.IsNumber()) << cell;
   return value.IsNumber() ? value.AsNumber() : 0;
 }
 
@@ -50,10 +54,6 @@ TEST(FreeRoofTablesTest, EveryValueStandsAtItsRowAndAngle) {
   const auto checks = ReadCsvLines(GUSTLINE_TEST_DATA_DIR "/free-roof-check-values.csv");
   ASSERT_EQ(checks.size(), 416u);
   auto book = OpenBuiltWindData();
-  const std::map<std::string, std::string> distanceColumn = {
-      {"h", "B"}, {"2h", "C"}, {"beyond", "D"}};
-  const std::map<std::string, int> caseRow = {
-      {"A clear", 312}, {"A obstructed", 313}, {"B clear", 314}, {"B obstructed", 315}};
   int checked = 0;
   for (const auto& check : checks) {
     const std::string& figure = check[0];
@@ -62,22 +62,22 @@ TEST(FreeRoofTablesTest, EveryValueStandsAtItsRowAndAngle) {
     const std::string& flow = check[3];
     const std::string& column = check[5];
     const double expected = std::stod(check[6]);
-    const std::string where =
-        figure + " " + roof + " " + table + " " + flow + " at " + check[4] + " " + column;
+    SCOPED_TRACE(::testing::Message() << figure << " " << roof << " " << table << " " << flow
+                                      << " at " << check[4] << " " << column);
     if (roof == "free") {
-      const std::string cell =
-          distanceColumn.at(check[4]) + std::to_string(caseRow.at(table + " " + flow));
-      EXPECT_EQ(Expect(CellAt(*book, "Sheet7", cell), where), expected) << where;
+      static const std::map<std::string, const char*> distanceColumn = {
+          {"h", "B"}, {"2h", "C"}, {"beyond", "D"}};
+      // A clear, A obstructed, B clear, B obstructed from row 312
+      const int row = 312 + (table == "B" ? 2 : 0) + (flow == "obstructed" ? 1 : 0);
+      EXPECT_EQ(Sheet7Number(*book, distanceColumn.at(check[4]), row), expected);
       ++checked;
       continue;
     }
     Set(*book, "Table66Angle", std::stod(check[4]));
-    const std::string sheetColumn = column == "cnw" || column == "pos" ? "G" : "H";
+    const char* sheetColumn = column == "cnw" || column == "pos" ? "G" : "H";
     if (figure == "6-18") {
-      const int row = Figure618Row(roof, table, flow);
-      EXPECT_NEAR(Expect(CellAt(*book, "Sheet7", sheetColumn + std::to_string(row)), where),
-                  expected, 1e-12)
-          << where;
+      EXPECT_NEAR(Sheet7Number(*book, sheetColumn, Figure618Row(roof, table, flow)), expected,
+                  1e-12);
       ++checked;
       continue;
     }
@@ -87,10 +87,9 @@ TEST(FreeRoofTablesTest, EveryValueStandsAtItsRowAndAngle) {
       if (roof == "troughed" && zoneBand.zone == 2 && zoneBand.band == 2 && flow == "clear" &&
           column == "pos" && (check[4] == "30" || check[4] == "45"))
         value = check[4] == "30" ? 1.9 : 1.8;
-      const int row = Figure619Row(roof, zoneBand, flow);
-      EXPECT_NEAR(Expect(CellAt(*book, "Sheet7", sheetColumn + std::to_string(row)), where), value,
+      EXPECT_NEAR(Sheet7Number(*book, sheetColumn, Figure619Row(roof, zoneBand, flow)), value,
                   1e-12)
-          << where << ", zone " << zoneBand.zone << " band " << zoneBand.band;
+          << "zone " << zoneBand.zone << " band " << zoneBand.band;
       ++checked;
     }
   }
