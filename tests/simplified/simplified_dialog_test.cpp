@@ -18,9 +18,8 @@ namespace gustline {
 namespace {
 
 using testing::DialogApp;
-using testing::ExpectRule;
+using testing::ExpectRules;
 using testing::Field;
-using testing::RuleCase;
 
 void Set(DialogApp& d, const char* name, double value) {
   wb::WriteNamedNumber(d.Project(), name, value);
@@ -112,18 +111,10 @@ TEST(SimplifiedValuesTest, OkRefusesATallBuildingAndAMissingArea) {
 }
 
 TEST(SimplifiedDialogTest, TextBoxesRefuseTextOutsideTheirRules) {
-  const RuleCase cases[] = {
-      {"Text6", "45.5", "Valid values are numbers from 0.000 to 45.000"},
-      {"Text1", "84", "Valid values are numbers from 85.000 to 170.000"},
-      {"Text1", "171", "Valid values are numbers from 85.000 to 170.000"},
-      {"Text2", "60", nullptr},
-  };
-  for (const RuleCase& c : cases) {
-    DialogApp d;
-    frmSimplified form(d.app);
-    form.show();
-    ExpectRule(d, form, c);
-  }
+  ExpectRules<frmSimplified>({{"Text6", "45.5", "Valid values are numbers from 0.000 to 45.000"},
+                              {"Text1", "84", "Valid values are numbers from 85.000 to 170.000"},
+                              {"Text1", "171", "Valid values are numbers from 85.000 to 170.000"},
+                              {"Text2", "60", nullptr}});
 }
 
 TEST(SimplifiedDialogTest, OkWritesTheSwitchAndBuildsTheReport) {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QVariant>
+#include <initializer_list>
 
 #include "TestApplication.h"
 #include "core/Application.h"
@@ -71,6 +72,17 @@ void ExpectRule(DialogApp& d, Dialog& dialog, const RuleCase& c) {
   if (c.message == nullptr) return;
   ASSERT_FALSE(d.prompt.messages.empty());
   EXPECT_EQ(d.prompt.messages.back().text, c.message);
+}
+
+// ExpectRule for each case in a dialog of its own on the default project.
+template <typename Dialog>
+void ExpectRules(std::initializer_list<RuleCase> cases) {
+  for (const RuleCase& c : cases) {
+    DialogApp d;
+    Dialog dialog(d.app);
+    dialog.show();
+    ExpectRule(d, dialog, c);
+  }
 }
 
 }  // namespace gustline::testing

@@ -14,31 +14,22 @@ namespace gustline {
 namespace {
 
 using testing::DialogApp;
-using testing::ExpectRule;
+using testing::ExpectRules;
 using testing::Field;
-using testing::RuleCase;
 
 TEST(WindPropertiesDialogTest, EveryTextBoxRefusesTextOutsideItsRule) {
-  const RuleCase cases[] = {
-      {"HillX", "0.5", "Valid value must be greater or equal to 1"},
-      {"HillLh", "0", "Valid value must be greater or equal to 1"},
-      {"HillHeight", "0.9", "Valid value must be greater or equal to 1.0"},
-      {"Text3", "0.9", "Valid value must be greater or equal to 1.0"},
-      {"Text2", "0", "Valid value must be greater or equal to 1.0"},
-      {"Text1", "2000.5", "Valid values are numbers from 1.000 to 2000.000"},
-      {"Text5", "50.1", "Valid values are numbers from 0.000 to 50.000"},
-      {"Text4", "101", "Valid values are numbers from 0.000 to 100.000"},
-      {"Text6", "501", "Valid values are numbers from 0.000 to 500.000"},
-      {"Text7", "-1", "Valid values are numbers from 0.000 to 10000.000"},
-      {"TextAog", "no rule", nullptr},
-      {"TextVi", "no rule", nullptr},
-  };
-  for (const RuleCase& c : cases) {
-    DialogApp d;
-    frmWindProp form(d.app);
-    form.show();
-    ExpectRule(d, form, c);
-  }
+  ExpectRules<frmWindProp>({{"HillX", "0.5", "Valid value must be greater or equal to 1"},
+                            {"HillLh", "0", "Valid value must be greater or equal to 1"},
+                            {"HillHeight", "0.9", "Valid value must be greater or equal to 1.0"},
+                            {"Text3", "0.9", "Valid value must be greater or equal to 1.0"},
+                            {"Text2", "0", "Valid value must be greater or equal to 1.0"},
+                            {"Text1", "2000.5", "Valid values are numbers from 1.000 to 2000.000"},
+                            {"Text5", "50.1", "Valid values are numbers from 0.000 to 50.000"},
+                            {"Text4", "101", "Valid values are numbers from 0.000 to 100.000"},
+                            {"Text6", "501", "Valid values are numbers from 0.000 to 500.000"},
+                            {"Text7", "-1", "Valid values are numbers from 0.000 to 10000.000"},
+                            {"TextAog", "no rule", nullptr},
+                            {"TextVi", "no rule", nullptr}});
 }
 
 // The dialog shown on the default project, a field changed, and OK pressed.
