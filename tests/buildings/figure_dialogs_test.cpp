@@ -20,7 +20,6 @@ namespace {
 using testing::DialogApp;
 using testing::ExpectRules;
 using testing::Field;
-using testing::RuleCase;
 
 TEST(FigureDialogsTest, EveryTextBoxRefusesTextOutsideItsRule) {
   const char* const zeroTo90 = "Valid values are numbers from 0.000 to 90.000";
