@@ -6,7 +6,9 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <algorithm>
+#include <utility>
 
 #include "core/workbook/model/Workbook.h"
 
@@ -25,10 +27,11 @@ class SystemClipboard : public TextClipboard {
 
 class SheetGridModel : public QAbstractTableModel {
  public:
-  SheetGridModel(GridEditor& editor, QStringList headings, int rows,
+  SheetGridModel(GridEditor& editor, Prompt& prompt, QStringList headings, int rows,
                  std::vector<int> editableColumns, QObject* parent)
       : QAbstractTableModel(parent),
         editor_(editor),
+        prompt_(prompt),
         headings_(std::move(headings)),
         rows_(rows),
         editableColumns_(std::move(editableColumns)) {}
@@ -57,7 +60,14 @@ class SheetGridModel : public QAbstractTableModel {
 
   bool setData(const QModelIndex& index, const QVariant& value, int role) override {
     if (role != Qt::EditRole) return false;
-    editor_.Enter(index.row() + 1, index.column() + 1, value.toString().toStdString());
+    const std::string entry = value.toString().toStdString();
+    if (rule_) {
+      if (const auto refusal = rule_(index.row() + 1, index.column() + 1, entry)) {
+        prompt_.Show(*refusal);
+        return false;
+      }
+    }
+    editor_.Enter(index.row() + 1, index.column() + 1, entry);
     Refresh();
     return true;
   }
@@ -75,6 +85,8 @@ class SheetGridModel : public QAbstractTableModel {
     return flags;
   }
 
+  void SetEntryRule(EntryRule rule) { rule_ = std::move(rule); }
+
   // Formulas elsewhere in the grid may follow any change.
   void Refresh() {
     emit dataChanged(index(0, 0), index(rows_ - 1, static_cast<int>(headings_.size()) - 1));
@@ -82,6 +94,8 @@ class SheetGridModel : public QAbstractTableModel {
 
  private:
   GridEditor& editor_;
+  Prompt& prompt_;
+  EntryRule rule_;
   QStringList headings_;
   int rows_;
   std::vector<int> editableColumns_;
@@ -100,7 +114,7 @@ void SheetGrid::Attach(wb::Workbook& book, Prompt& prompt, const QStringList& he
                        std::vector<int> editableColumns) {
   clipboard_ = std::make_unique<SystemClipboard>();
   editor_ = std::make_unique<GridEditor>(book, *clipboard_, prompt);
-  model_ = new SheetGridModel(*editor_, headings, rows, std::move(editableColumns), this);
+  model_ = new SheetGridModel(*editor_, prompt, headings, rows, std::move(editableColumns), this);
   setModel(model_);
 }
 
@@ -112,6 +126,15 @@ void SheetGrid::SetCurrentCell(int row, int col) {
   const QModelIndex cell = model_->index(row - 1, col - 1);
   setCurrentIndex(cell);
   selectionModel()->select(cell, QItemSelectionModel::ClearAndSelect);
+}
+
+void SheetGrid::EditCell(int row, int col) {
+  SetCurrentCell(row, col);
+  edit(currentIndex());
+}
+
+void SheetGrid::SetEntryRule(EntryRule rule) {
+  model_->SetEntryRule(std::move(rule));
 }
 
 void SheetGrid::SelectToBook() {
@@ -168,6 +191,23 @@ void SheetGrid::ClearCells() {
 }
 void SheetGrid::CopyCellsDown() {
   OnSelection([](GridEditor& e) { e.CopyDown(); });
+}
+
+QMenu* SheetGrid::EditMenu(QWidget* parent, const std::array<QString, 5>& captions) {
+  auto* menu = new QMenu(parent);
+  menu->setObjectName(QStringLiteral("mnuEdit"));
+  const std::pair<const char*, void (SheetGrid::*)()> commands[] = {
+      {"mnuCut", &SheetGrid::CutCells},
+      {"mnuCopy", &SheetGrid::CopyCells},
+      {"mnuPaste", &SheetGrid::PasteCells},
+      {"mnuClear", &SheetGrid::ClearCells},
+      {"mnuCopyDown", &SheetGrid::CopyCellsDown}};
+  for (std::size_t i = 0; i < captions.size(); ++i) {
+    QAction* action = menu->addAction(captions[i]);
+    action->setObjectName(QString::fromLatin1(commands[i].first));
+    connect(action, &QAction::triggered, this, commands[i].second);
+  }
+  return menu;
 }
 
 void SheetGrid::keyPressEvent(QKeyEvent* event) {

@@ -2,14 +2,25 @@
 
 #include <QStringList>
 #include <QTableView>
+#include <array>
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string_view>
 #include <vector>
 
+#include "core/Prompt.h"
 #include "ui/grid/GridEditor.h"
+
+class QMenu;
 
 namespace gustline::grid {
 
 class SheetGridModel;
+
+// A check of what is typed into a cell (row and column from 1): the box that refuses it, or
+// nullopt to take it.
+using EntryRule = std::function<std::optional<Message>(int row, int col, std::string_view entry)>;
 
 // An editable grid over the active sheet of a workbook of our engine: the rows from 1 to
 // `rows` and one column for each heading, numbered from 1. Typing or double-clicking edits
@@ -33,6 +44,10 @@ class SheetGrid : public QTableView {
   void SelectToBook();
   // Makes a cell (row and column from 1) the current one and the whole selection.
   void SetCurrentCell(int row, int col);
+  // SetCurrentCell, with the cell open for typing.
+  void EditCell(int row, int col);
+  // Typing refused by the rule shows its box and leaves the cell as it was.
+  void SetEntryRule(EntryRule rule);
   // Shows the book as it now stands.
   void Refresh();
 
@@ -42,6 +57,9 @@ class SheetGrid : public QTableView {
   void PasteCells();
   void ClearCells();
   void CopyCellsDown();
+  // The five commands above as a context menu owned by `parent`, captions in that order,
+  // its actions named mnuCut, mnuCopy, mnuPaste, mnuClear and mnuCopyDown.
+  QMenu* EditMenu(QWidget* parent, const std::array<QString, 5>& captions);
 
  signals:
   // A right click, at the cell under the pointer (row and column from 1).
