@@ -186,7 +186,10 @@ FigureChoice FigureChoiceOf(std::string_view item) {
 }
 
 TableDialog TableDialogOf(int row) {
-  constexpr TableDialog kByRow[] = {TableDialog::Figure618, TableDialog::Fig619};
+  constexpr TableDialog kByRow[] = {TableDialog::Figure618,   TableDialog::Fig619,
+                                    TableDialog::Figure620,   TableDialog::Figure619,
+                                    TableDialog::Figure621,   TableDialog::Figure622,
+                                    TableDialog::TableSpecial};
   if (row < 0 || row >= static_cast<int>(std::size(kByRow))) return TableDialog::None;
   return kByRow[row];
 }

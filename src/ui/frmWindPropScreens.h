@@ -57,9 +57,19 @@ struct FigureChoice {
 };
 FigureChoice FigureChoiceOf(std::string_view item);
 
-// The dialogs that Command5 opens, by the row of the List2 entry chosen; the entries after
-// the free roofs open nothing yet.
-enum class TableDialog { None, Figure618, Fig619 };
+// The dialogs that Command5 opens, by the row of the List2 entry chosen. Figure619 serves
+// the chimneys of Figure 6-21, Figure621 the open signs of Figure 6-22 and Figure622 the
+// trussed towers of Figure 6-23; Fig619 the free roofs of Figures 6-19A to C.
+enum class TableDialog {
+  None,
+  Figure618,
+  Fig619,
+  Figure620,
+  Figure619,
+  Figure621,
+  Figure622,
+  TableSpecial
+};
 TableDialog TableDialogOf(int row);
 
 // The "Height Range Error" box when the height does not fit the figure's rule.

@@ -44,6 +44,10 @@ TEST(CellRulesTest, InputsAreTestedInTheFieldsUnit) {
       {"Figure68Angle", "-1", false, "Valid values are numbers from 0.000 to 45.000"},
       {"Table66Angle", "45.5", false, "Valid values are numbers from 0.000 to 45.000"},
       {"Dimension_a", "-1", true, ""},  // Figure 6-19 writes it unchecked
+      {"AfBhRatio", "1.01", false, "Valid values are numbers from 0.000 to 1.000"},
+      {"RatioOfSolidAreaToGrossArea", "0.69", false,
+       "Valid values are numbers from 0.700 to 1.000"},
+      {"Table69Dia", "0", false, "Valid values are numbers from 0.000 to 30.000"},
       {"System", "3", true, ""},
   };
   for (const Case& c : cases) {

@@ -28,8 +28,14 @@
 #include "simplified/qt/frmSimplified.h"
 #include "structures/qt/Fig619.h"
 #include "structures/qt/Figure618.h"
+#include "structures/qt/Figure619.h"
+#include "structures/qt/Figure620.h"
+#include "structures/qt/Figure621.h"
+#include "structures/qt/Figure622.h"
+#include "structures/qt/TableSpecial.h"
 #include "ui/qt/frmNew.h"
 #include "ui/qt/frmWindProp.h"
+#include "ui/rules/qt/PropertyDialog.h"
 
 namespace gustline {
 namespace {
@@ -58,6 +64,21 @@ FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   };
   dialogs.tables[TableDialog::Fig619] = [](Application& app, QWidget* parent) {
     Fig619(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Figure620] = [](Application& app, QWidget* parent) {
+    Figure620(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Figure619] = [](Application& app, QWidget* parent) {
+    Figure619(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Figure621] = [](Application& app, QWidget* parent) {
+    Figure621(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::Figure622] = [](Application& app, QWidget* parent) {
+    Figure622(app, parent).exec();
+  };
+  dialogs.tables[TableDialog::TableSpecial] = [](Application& app, QWidget* parent) {
+    TableSpecial(app, parent).exec();
   };
   dialogs.topography = [](QWidget* parent) { frmTopography(parent).exec(); };
   return dialogs;
@@ -119,6 +140,14 @@ void MainFrm::OpenGeometry(int tab) {
   if (!geometry_) {
     geometry_ = std::make_unique<geometry::Geometry>(*app_, this);
     geometry_->SetHelp([this] { HelpContents(); });
+    // The lists by interval that a new interval leaves out of step, over the dialog.
+    geometry_->SetIntervalListDialogs(
+        {{geometry::IntervalListDialog::Figure619,
+          [this] { ShowProperties<Figure619>(geometry_.get(), *app_); }},
+         {geometry::IntervalListDialog::Figure622,
+          [this] { ShowProperties<Figure622>(geometry_.get(), *app_); }},
+         {geometry::IntervalListDialog::TableSpecial,
+          [this] { ShowProperties<TableSpecial>(geometry_.get(), *app_); }}});
   }
   geometry_->Exec(tab);
 }

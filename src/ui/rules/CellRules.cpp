@@ -12,6 +12,9 @@
 #include "simplified/SimplifiedValues.h"
 #include "simplified/WindAreasValues.h"
 #include "structures/Figure618Values.h"
+#include "structures/Figure619Values.h"
+#include "structures/Figure620Values.h"
+#include "structures/Figure621Values.h"
 #include "ui/frmWindPropValues.h"
 #include "ui/rules/CheckRule.h"
 #include "ui/rules/FieldNumber.h"
@@ -51,6 +54,9 @@ std::span<const CellRule> CellRules() {
     AddFig611Rules(gathered);
     AddRules(gathered, "Fig617", kFig617Fields);
     AddRules(gathered, "Figure618", kFigure618Fields);
+    AddRules(gathered, "Figure619", kFigure619Fields);
+    AddRules(gathered, "Figure620", kFigure620Fields);
+    AddRules(gathered, "Figure621", kFigure621Fields);
     AddRules(gathered, "frmSimplified", kSimplifiedFields);
     AddRules(gathered, "WindAreasFrm", kWindAreasFields);
     return gathered;

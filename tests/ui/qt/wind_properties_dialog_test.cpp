@@ -218,13 +218,17 @@ TEST(WindPropertiesDialogTest, PropertiesOpensTheFigureDialogOfTheEntryWithItsFi
   }
 }
 
-TEST(WindPropertiesDialogTest, TablePropertiesOpensTheFreeRoofDialogsByRow) {
+TEST(WindPropertiesDialogTest, TablePropertiesOpensTheTableDialogsByRow) {
   DialogApp d;
   wb::WriteNamedNumber(d.Project(), "System", 2);
   frmWindProp form(d.app);
   std::vector<TableDialog> opened;
   FigureDialogs dialogs;
-  for (const TableDialog dialog : {TableDialog::Figure618, TableDialog::Fig619}) {
+  const std::vector<TableDialog> byRow = {TableDialog::Figure618,   TableDialog::Fig619,
+                                          TableDialog::Figure620,   TableDialog::Figure619,
+                                          TableDialog::Figure621,   TableDialog::Figure622,
+                                          TableDialog::TableSpecial};
+  for (const TableDialog dialog : byRow) {
     dialogs.tables[dialog] = [&opened, dialog](Application& app, QWidget*) {
       opened.push_back(dialog);
       wb::WriteNamedNumber(app.state.ProjectWorkbook(), "Table66RoofType", 4);
@@ -239,8 +243,8 @@ TEST(WindPropertiesDialogTest, TablePropertiesOpensTheFreeRoofDialogsByRow) {
   }
   list->setCurrentRow(0);  // the first click of a double click
   emit list->itemDoubleClicked(list->item(0));
-  const std::vector<TableDialog> expected = {TableDialog::Figure618, TableDialog::Fig619,
-                                             TableDialog::Figure618};
+  std::vector<TableDialog> expected = byRow;
+  expected.push_back(TableDialog::Figure618);
   EXPECT_EQ(opened, expected);
   // The roof type chosen there survives the OK of this dialog.
   form.Command1_Click();
