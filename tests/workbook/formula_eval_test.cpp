@@ -206,7 +206,12 @@ TEST_F(FormulaEvalTest, MathAndTextFunctions) {
          {"CODE(D3)", E(ErrorCode::Value)},
          {"CODE(\"\xC9t\xE9\")", N(201)},
          {"CONCATENATE(\"a\",1,TRUE)", T("a1TRUE")},
-         {"concatenate(B1,\"-\",A2)", T("one-2")}});
+         {"concatenate(B1,\"-\",A2)", T("one-2")},
+         {"VALUE(\" 0.85 \")", N(0.85)},
+         {"VALUE(2)", N(2)},
+         {"VALUE(\"12 ft\")", E(ErrorCode::Value)},
+         {"VALUE(\"\")", E(ErrorCode::Value)},
+         {"VALUE(NA())", E(ErrorCode::NA)}});
 }
 
 TEST_F(FormulaEvalTest, ImplicitIntersectionUsesTheHostRowOrColumn) {

@@ -36,5 +36,6 @@ Operand Sum(Evaluator& ev, const Formula::Node& node);
 // FunctionsText.cpp
 Operand Code(Evaluator& ev, const Formula::Node& node);
 Operand Concatenate(Evaluator& ev, const Formula::Node& node);
+Operand ValueOf(Evaluator& ev, const Formula::Node& node);
 
 }  // namespace gustline::wb::functions

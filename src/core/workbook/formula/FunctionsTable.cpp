@@ -34,6 +34,7 @@ constexpr FunctionInfo kFunctions[] = {
     {"SIGN", 1, 1, functions::Sign},
     {"SQRT", 1, 1, functions::Sqrt},
     {"SUM", 1, kMany, functions::Sum},
+    {"VALUE", 1, 1, functions::ValueOf},
     {"VLOOKUP", 3, 4, functions::VLookup},
 };
 

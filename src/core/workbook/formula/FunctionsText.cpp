@@ -21,4 +21,16 @@ Operand Concatenate(Evaluator& ev, const Formula::Node& node) {
   return Operand::Of(Value::Text(std::move(text)));
 }
 
+// A number as it stands; a text that reads wholly as a number, such as a factor typed into a
+// cell that keeps its entries as text.
+Operand ValueOf(Evaluator& ev, const Formula::Node& node) {
+  const Value value = ev.Scalar(ev.GetFormula().KidIndex(node, 0));
+  if (value.IsError() || value.IsNumber()) return Operand::Of(value);
+  std::string text;
+  if (auto error = ToText(value, text)) return ErrorOperand(*error);
+  const std::optional<double> number = ReadNumber(text);
+  if (!number) return ErrorOperand(ErrorCode::Value);
+  return Operand::Of(Value::Number(*number));
+}
+
 }  // namespace gustline::wb::functions
