@@ -87,7 +87,12 @@ std::string CheckValueAt(wb::Workbook& report, const ExpectValue& expect) {
   const wb::Value value = report.CellValue(cell->row, cell->col);
   const CheckValue& expected = expect.value;
   std::string wanted, got;
-  if (expected.number) {
+  if (expected.hidden) {
+    const bool hidden = report.RowHidden(cell->row);
+    if (hidden == *expected.hidden) return {};
+    wanted = hidden ? "a shown row" : "a hidden row";
+    got = hidden ? "a hidden one" : "a shown one";
+  } else if (expected.number) {
     if (value.IsNumber() && std::abs(value.AsNumber() - *expected.number) <= expected.tolerance)
       return {};
     wanted = wb::FormatShortest(*expected.number);

@@ -196,12 +196,14 @@ class CheckParser {
     value.tolerance = tolerance_;
     if (const auto text = QuotedText(words[2]))
       value.text = *text;
+    else if (words[2] == "hidden" || words[2] == "shown")
+      value.hidden = words[2] == "hidden";
     else if (const auto number = wb::ReadNumber(words[2]))
       value.number = number;
     else
-      Fail("a value is a number or a quoted text, not " + words[2]);
+      Fail("a value is a number, a quoted text, hidden or shown, not " + words[2]);
     if (words.size() == 4) {
-      if (!value.number) Fail("a text takes no tolerance");
+      if (!value.number) Fail("only a number takes a tolerance");
       value.tolerance = ParseTolerance(words[3], file_.path, lineNo_);
     }
     Step(ExpectValue{ParsePlace(words[1], file_.path, lineNo_), std::move(value)});

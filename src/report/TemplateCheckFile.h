@@ -27,9 +27,11 @@ struct CheckPlace {
   int rowOffset = 0;   // rows below the label's row
 };
 
-// A number within the tolerance, or else the text the cell shows.
+// A number within the tolerance, else whether the cell's row is hidden, else the text the
+// cell shows.
 struct CheckValue {
   std::optional<double> number;
+  std::optional<bool> hidden;
   std::string text;
   double tolerance = 0;
 };
