@@ -167,6 +167,7 @@ bool BuildSpecialCase(const wb::Workbook& templateBook, const BuildContext& cont
   const std::string areas =
       CommaListLines(wb::ReadNamedText(context.project, "TableSpecialProjAreas"));
   BuildTwoTables(templateBook, context, heights, areas, {"CfFactors", "TableSpecialCoefficients"});
+  WriteSystemHeading(templateBook, context);
   return true;
 }
 
