@@ -63,6 +63,28 @@ void AddOpenBuildings(std::vector<Case>& cases) {
   }
 }
 
+// Other structures for each gust treatment: solid signs (Table 3, one page of pressures),
+// then chimneys, open signs, trussed towers and the special case by height (Tables 4 to 7).
+void AddOtherStructures(std::vector<Case>& cases) {
+  using Names = std::vector<const char*>;
+  const std::pair<TemplateContainer, Names> treatments[] = {
+      {TemplateContainer::A, {"Fig620", "Figure619A", "Figure621A", "Figure622A", "TableSpecial"}},
+      {TemplateContainer::F, {"Fig620", "Figure619C", "Figure621C", "Figure622C", "TableSpecialD"}},
+      {TemplateContainer::B,
+       {"Fig620", "Figure619B", "Figure621B", "Figure622B", "TableSpecialB"}}};
+  for (int gust = 0; gust < 3; ++gust) {
+    const auto& [container, names] = treatments[gust];
+    for (int table = 3; table <= 7; ++table) {
+      // The special case of GustType 0 and 2 stands on container D.
+      const TemplateContainer on = table == 7 && gust != 1 ? TemplateContainer::D : container;
+      cases.push_back({names[table - 3],
+                       on,
+                       {{"System", 2}, {"Table", table}, {"GustType", gust}},
+                       table != 3});
+    }
+  }
+}
+
 const std::vector<Case>& Cases() {
   static const std::vector<Case> cases = [] {
     std::vector<Case> all = {
@@ -95,6 +117,7 @@ const std::vector<Case>& Cases() {
          {{"System", 1}, {"Structure", 1}, {"Figure", 7}, {"Height", 100}, {"HasParapet", 1}}},
     };
     AddOpenBuildings(all);
+    AddOtherStructures(all);
     return all;
   }();
   return cases;
