@@ -42,6 +42,10 @@ TEST(CellRulesTest, InputsAreTestedInTheFieldsUnit) {
       {"Figure65BAngle", "45", true, ""},
       {"Figure67AZ3p", "0.5", false, "Valid values are numbers from 1.000 to 1000.000"},
       {"Figure68Angle", "-1", false, "Valid values are numbers from 0.000 to 45.000"},
+      {"Table65Ratio", "0.61", false, "Valid values are numbers from 0.000 to 0.600"},
+      {"T65Ratio", "0.6", true, ""},
+      {"Figure68LB", "1000.01", false, "Valid values are numbers from 0.000 to 1000.000"},
+      {"Figure65BZone3", "0.5", false, "Valid values are numbers from 1.000 to 1000.000"},
       {"Table66Angle", "45.5", false, "Valid values are numbers from 0.000 to 45.000"},
       {"Dimension_a", "-1", true, ""},  // Figure 6-19 writes it unchecked
       {"AfBhRatio", "1.01", false, "Valid values are numbers from 0.000 to 1.000"},

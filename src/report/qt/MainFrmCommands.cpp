@@ -9,8 +9,12 @@
 
 #include "buildings/qt/Fig610.h"
 #include "buildings/qt/Fig611.h"
+#include "buildings/qt/Fig616.h"
 #include "buildings/qt/Fig617.h"
 #include "buildings/qt/Fig66.h"
+#include "buildings/qt/Figure67.h"
+#include "buildings/qt/Figure68.h"
+#include "buildings/qt/Figure68comp.h"
 #include "core/Application.h"
 #include "core/FacilityErrorReport.h"
 #include "core/FileExit.h"
@@ -19,6 +23,7 @@
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/StatusSummary.h"
+#include "core/workbook/model/NamedCells.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
 #include "factors/qt/frmTopography.h"
@@ -58,6 +63,21 @@ FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   };
   dialogs.figures[FigureDialog::Fig617] = [](Application& app, int /*figure*/, QWidget* parent) {
     Fig617(app, parent).exec();
+  };
+  // Arched roofs have a dialog for the main wind-force system and one for components and
+  // cladding; the project's system chooses.
+  dialogs.figures[FigureDialog::Figure68] = [](Application& app, int /*figure*/, QWidget* parent) {
+    if (wb::ReadNamedInt(app.state.ProjectWorkbook(), "System") == 1) {
+      Figure68comp(app, parent).exec();
+    } else {
+      Figure68(app, parent).exec();
+    }
+  };
+  dialogs.figures[FigureDialog::Figure67] = [](Application& app, int /*figure*/, QWidget* parent) {
+    Figure67(app, parent).exec();
+  };
+  dialogs.figures[FigureDialog::Fig616] = [](Application& app, int /*figure*/, QWidget* parent) {
+    Fig616(app, parent).exec();
   };
   dialogs.tables[TableDialog::Figure618] = [](Application& app, QWidget* parent) {
     Figure618(app, parent).exec();

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "buildings/ArchValues.h"
 #include "buildings/Fig610Values.h"
 #include "buildings/Fig611Values.h"
 #include "buildings/Fig617Values.h"
@@ -53,6 +54,8 @@ std::span<const CellRule> CellRules() {
     AddRules(gathered, "Fig610", kFig610Fields);
     AddFig611Rules(gathered);
     AddRules(gathered, "Fig617", kFig617Fields);
+    AddRules(gathered, "Figure68", kFigure68Fields);
+    AddRules(gathered, "Figure68comp", kFigure68compFields);
     AddRules(gathered, "Figure618", kFigure618Fields);
     AddRules(gathered, "Figure619", kFigure619Fields);
     AddRules(gathered, "Figure620", kFigure620Fields);
