@@ -178,9 +178,14 @@ bool HeightEditable(int interval) {
   return interval != 5;
 }
 
-FigureChoice FigureChoiceOf(std::string_view item) {
+FigureChoice FigureChoiceOf(std::string_view item, int system) {
   for (const FigureEntry& entry : kFigureEntries) {
-    if (item.find(entry.substring) != std::string_view::npos) return entry.choice;
+    if (item.find(entry.substring) == std::string_view::npos) continue;
+    FigureChoice choice = entry.choice;
+    if (choice.dialog == FigureDialog::Figure68 && system == 1) {
+      choice.dialog = FigureDialog::Figure68comp;
+    }
+    return choice;
   }
   return {};
 }

@@ -47,7 +47,17 @@ GustScreen GustScreenFor(int system, int structure, int gustType);
 bool HeightEditable(int interval);
 
 // The figure dialogs that Command10 opens, found by a List1 entry's text.
-enum class FigureDialog { None, Fig66, Fig610, Fig611, Fig617, Figure68, Figure67, Fig616 };
+enum class FigureDialog {
+  None,
+  Fig66,
+  Fig610,
+  Fig611,
+  Fig617,
+  Figure68,
+  Figure68comp,
+  Figure67,
+  Fig616
+};
 enum class HeightRule { Any, AtMost60, Over60 };
 struct FigureChoice {
   FigureDialog dialog = FigureDialog::None;
@@ -55,7 +65,8 @@ struct FigureChoice {
   HeightRule heightRule = HeightRule::Any;
   bool writesTable64 = false;
 };
-FigureChoice FigureChoiceOf(std::string_view item);
+// The arched roofs of System 1 take the components dialog Figure68comp.
+FigureChoice FigureChoiceOf(std::string_view item, int system);
 
 // The dialogs that Command5 opens, by the row of the List2 entry chosen. Figure619 serves
 // the chimneys of Figure 6-21, Figure621 the open signs of Figure 6-22 and Figure622 the

@@ -81,17 +81,21 @@ TEST(WindPropertiesTest, FigureEntriesAndHeightRules) {
   EXPECT_EQ(FigureListIndex(0, 1, 2), 0);  // low-rise to rigid: Figure 6-6
   EXPECT_EQ(FigureListIndex(0, 2, 9), 1);
   const auto items = ForceFactorScreenFor(1, 0).figureItems;
-  const FigureChoice gabled = FigureChoiceOf(items[0]);
+  const FigureChoice gabled = FigureChoiceOf(items[0], 1);
   EXPECT_EQ(gabled.dialog, FigureDialog::Fig611);
   const auto error = HeightRangeError(gabled.heightRule, 80);
   ASSERT_TRUE(error);
   EXPECT_EQ(error->title, "Height Range Error");
   EXPECT_EQ(error->text, "Mean roof height h must be\r\nless than or equal to 60.0 ft");
   EXPECT_FALSE(HeightRangeError(gabled.heightRule, 60));
-  const FigureChoice tall = FigureChoiceOf(ForceFactorScreenFor(1, 1).figureItems[0]);
+  const FigureChoice tall = FigureChoiceOf(ForceFactorScreenFor(1, 1).figureItems[0], 1);
   EXPECT_EQ(HeightRangeError(tall.heightRule, 60)->text,
             "Mean roof height h must be\r\ngreater than 60.0 ft");
-  EXPECT_EQ(FigureChoiceOf("Domed Roofs, Figure 6-7").figure, 9);
+  EXPECT_EQ(FigureChoiceOf("Domed Roofs, Figure 6-7", 0).figure, 9);
+  // the arch entry opens the dialog of the system chosen in the form, not the saved one
+  const std::string arches = ForceFactorScreenFor(1, 2).figureItems[0];
+  EXPECT_EQ(FigureChoiceOf(arches, 1).dialog, FigureDialog::Figure68comp);
+  EXPECT_EQ(FigureChoiceOf(arches, 0).dialog, FigureDialog::Figure68);
 }
 
 }  // namespace

@@ -23,7 +23,6 @@
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/StatusSummary.h"
-#include "core/workbook/model/NamedCells.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
 #include "factors/qt/frmTopography.h"
@@ -64,15 +63,11 @@ FigureDialogs ProcedureDialogs(const std::function<void()>& wallGeometry) {
   dialogs.figures[FigureDialog::Fig617] = [](Application& app, int /*figure*/, QWidget* parent) {
     Fig617(app, parent).exec();
   };
-  // Arched roofs have a dialog for the main wind-force system and one for components and
-  // cladding; the project's system chooses.
   dialogs.figures[FigureDialog::Figure68] = [](Application& app, int /*figure*/, QWidget* parent) {
-    if (wb::ReadNamedInt(app.state.ProjectWorkbook(), "System") == 1) {
-      Figure68comp(app, parent).exec();
-    } else {
-      Figure68(app, parent).exec();
-    }
+    Figure68(app, parent).exec();
   };
+  dialogs.figures[FigureDialog::Figure68comp] =
+      [](Application& app, int /*figure*/, QWidget* parent) { Figure68comp(app, parent).exec(); };
   dialogs.figures[FigureDialog::Figure67] = [](Application& app, int /*figure*/, QWidget* parent) {
     Figure67(app, parent).exec();
   };

@@ -94,7 +94,9 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
 
   connect(ui_->List1, &QListWidget::currentRowChanged, this, [this](int row) {
     if (row < 0) return;
-    const int figure = FigureChoiceOf(ui_->List1->item(row)->text().toStdString()).figure;
+    const int figure = FigureChoiceOf(ui_->List1->item(row)->text().toStdString(),
+                                      CheckedOr(system_, held_.system))
+                           .figure;
     if (figure > 0) held_.figure = figure;
   });
   connect(ui_->List2, &QListWidget::currentRowChanged, this, [this](int row) {
@@ -288,7 +290,8 @@ void frmWindProp::ReloadCarriedValues() {
 void frmWindProp::Command10_Click() {
   const QListWidgetItem* item = ui_->List1->currentItem();
   if (item == nullptr) return;
-  const FigureChoice choice = FigureChoiceOf(item->text().toStdString());
+  const FigureChoice choice =
+      FigureChoiceOf(item->text().toStdString(), CheckedOr(system_, held_.system));
   if (choice.dialog == FigureDialog::None) return;
   if (const auto error = HeightRangeError(choice.heightRule, rules::FieldValue(Text(ui_->Text1)))) {
     app_.prompt.Show(*error);
