@@ -4,6 +4,7 @@
 // report, to show its share of the build.
 #include <benchmark/benchmark.h>
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -85,6 +86,38 @@ void AddOtherStructures(std::vector<Case>& cases) {
   }
 }
 
+// Domed and arched roofs: the main wind-force reports for each gust treatment, whose
+// windward wall goes by height, and the two components reports.
+void AddDomesAndArches(std::vector<Case>& cases) {
+  const std::pair<int, std::array<std::pair<const char*, TemplateContainer>, 3>> families[] = {
+      {9,
+       {{{"Figure67A", TemplateContainer::G},
+         {"Figure67C", TemplateContainer::G},
+         {"Figure67B", TemplateContainer::G}}}},
+      {8,
+       {{{"Figure68A", TemplateContainer::D},
+         {"Figure68C", TemplateContainer::F},
+         {"Figure68B", TemplateContainer::B}}}}};
+  for (const auto& [figure, members] : families) {
+    for (int gust = 0; gust < 3; ++gust) {
+      const auto [name, container] = members[gust];
+      const double structure = gust == 2 ? 2 : 1;
+      cases.push_back({name,
+                       container,
+                       {{"System", 0},
+                        {"Structure", structure},
+                        {"Figure", static_cast<double>(figure)},
+                        {"GustType", gust == 2 ? 0.0 : gust}}});
+    }
+  }
+  cases.push_back({"figure616A",
+                   TemplateContainer::G,
+                   {{"System", 1}, {"Structure", 2}, {"Figure", 9}},
+                   false});
+  cases.push_back(
+      {"Figure68B", TemplateContainer::F, {{"System", 1}, {"Structure", 2}, {"Figure", 8}}, false});
+}
+
 const std::vector<Case>& Cases() {
   static const std::vector<Case> cases = [] {
     std::vector<Case> all = {
@@ -118,6 +151,7 @@ const std::vector<Case>& Cases() {
     };
     AddOpenBuildings(all);
     AddOtherStructures(all);
+    AddDomesAndArches(all);
     return all;
   }();
   return cases;
