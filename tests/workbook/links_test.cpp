@@ -4,6 +4,7 @@
 
 #include "core/workbook/formula/Formula.h"
 #include "core/workbook/model/Workbook.h"
+#include "core/workbook/recalc/Recalc.h"
 
 namespace gustline::wb {
 namespace {
@@ -43,6 +44,30 @@ TEST(LinksTest, LinksReadAnotherOpenBookByNameOrCell) {
   project->SetCellNumber(24, 2, 40);
   EXPECT_EQ(report.CellValue(1, 1), N(40));
   EXPECT_EQ(report.CellValue(2, 1), N(80));
+}
+
+// A change marks for calculation the books that read the changed book, through a cell or a
+// name, and no other.
+TEST(LinksTest, ChangeMarksOnlyTheBooksLinkedToIt) {
+  auto project = MakeProject();
+  Workbook byCell("ByCell");
+  byCell.SetCellFormula(1, 1, "[WindData]Sheet1!$B$24+1");
+  Workbook byName("ByName");
+  byName.SetDefinedName("Top", "[WindData]Sheet1!Height");
+  byName.SetCellFormula(1, 1, "Top*2");
+  Workbook apart("Apart");
+  apart.SetCellFormula(1, 1, "1+1");
+  EXPECT_EQ(byCell.CellValue(1, 1), N(31));
+  EXPECT_EQ(byName.CellValue(1, 1), N(60));
+  EXPECT_EQ(apart.CellValue(1, 1), N(2));
+
+  project->SetCellNumber(24, 2, 40);
+  EXPECT_TRUE(RecalcState::Of(byCell).LinkChanged());
+  EXPECT_TRUE(RecalcState::Of(byName).LinkChanged());
+  EXPECT_FALSE(RecalcState::Of(apart).dirty || RecalcState::Of(apart).LinkChanged());
+  EXPECT_EQ(byCell.CellValue(1, 1), N(41));
+  EXPECT_EQ(byName.CellValue(1, 1), N(80));
+  EXPECT_FALSE(RecalcState::Of(byCell).LinkChanged());
 }
 
 TEST(LinksTest, UnboundLinkKeepsItsCachedValueUntilReentered) {

@@ -131,10 +131,10 @@ TEST(RecalcTest, RecalcWithoutChangeLeavesTheChangeCount) {
   Workbook book("Quiet");
   book.SetCellFormula(1, 1, "1+1");
   book.Recalc();
-  const std::uint64_t count = BookRegistry::Instance().ChangeCount();
+  const std::uint64_t count = book.ChangeCount();
   book.Recalc();
   book.EnsureCalculated();
-  EXPECT_EQ(BookRegistry::Instance().ChangeCount(), count);
+  EXPECT_EQ(book.ChangeCount(), count);
 }
 
 // A pass is settled when another would keep every value: the builders skip that pass.

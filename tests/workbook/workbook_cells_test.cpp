@@ -87,9 +87,9 @@ TEST(CellFormula, ReenteringAConstantChangesNothing) {
   Workbook book;
   book.SetCellNumber(1, 1, 17.428542112355654);
   book.SetCellText(1, 2, "Page \"1\"");
-  const auto before = BookRegistry::Instance().ChangeCount();
+  const auto before = book.ChangeCount();
   for (int col = 1; col <= 3; ++col) book.SetCellFormula(1, col, book.CellFormula(1, col));
-  EXPECT_EQ(BookRegistry::Instance().ChangeCount(), before);
+  EXPECT_EQ(book.ChangeCount(), before);
   EXPECT_EQ(book.CellNumber(1, 1), 17.428542112355654);
   EXPECT_EQ(book.CellText(1, 2), "Page \"1\"");
 }

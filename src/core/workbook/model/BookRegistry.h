@@ -23,15 +23,9 @@ class BookRegistry {
   Workbook* FindById(std::uint64_t id) const;
   std::uint64_t NextId() { return ++lastId_; }
 
-  // Counts every change of any open book's values or formulas, so that a book that
-  // calculates automatically can tell that a book it links to has changed.
-  std::uint64_t ChangeCount() const { return changeCount_; }
-  void NoteChange() { ++changeCount_; }
-
  private:
   std::vector<Workbook*> books_;
   std::uint64_t lastId_ = 0;
-  std::uint64_t changeCount_ = 0;
 };
 
 }  // namespace gustline::wb

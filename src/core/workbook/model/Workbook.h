@@ -186,6 +186,9 @@ class Workbook {
   // Brings cached results up to date when the book calculates automatically and anything
   // it may read has changed since its last calculation. Reads call it.
   void EnsureCalculated();
+  // Moves at every change of the book's values or formulas, its calculation's included, so
+  // that a book linking to it can tell that it has changed.
+  std::uint64_t ChangeCount() const { return changeCount_; }
 
   // --- Display ---
   int MousePointer() const { return mousePointer_; }
@@ -216,6 +219,7 @@ class Workbook {
   int maxIterations_ = 100;
   double maxChange_ = 0.001;
   int mousePointer_ = 1;
+  std::uint64_t changeCount_ = 1;
   std::unique_ptr<RecalcState> recalc_;  // owned by the calculation; see Recalc.h
   friend class RecalcState;
 };

@@ -14,9 +14,6 @@
 namespace gustline::wb {
 namespace {
 
-// Moves at every structural change of any book, which may redefine names that formulas use.
-std::uint64_t structureGeneration = 1;
-
 // The formula cells of one book, the edges from each to the formula cells it reads.
 class DependencyGraph {
  public:
@@ -103,6 +100,36 @@ class DependencyGraph {
   std::vector<std::vector<std::vector<int>>> byColumn_;
   std::unordered_map<int, std::vector<int>> nameEdges_;
 };
+
+// The books that a formula reads through links, by id.
+void AddLinkedBooks(const Formula& formula, std::vector<RecalcState::Link>& links) {
+  const auto add = [&links](const SheetTarget& sheet) {
+    if (sheet.kind != SheetTarget::Kind::Link) return;
+    const bool known = std::any_of(links.begin(), links.end(), [&](const RecalcState::Link& link) {
+      return link.bookId == sheet.bookId;
+    });
+    if (!known) links.push_back({sheet.bookId, 0});
+  };
+  for (const RefTarget& ref : formula.refs) add(ref.sheet);
+  for (const NameTarget& name : formula.names) add(name.sheet);
+}
+
+// The books that the formula cells and the names of a book read through links.
+std::vector<RecalcState::Link> LinkedBooks(const Workbook& book,
+                                           const std::vector<RecalcState::Item>& items) {
+  std::vector<RecalcState::Link> links;
+  const Formula* last = nullptr;
+  for (const RecalcState::Item& item : items) {
+    const Cell* cell = book.GetSheet(item.sheet + 1).Find(item.row, item.col);
+    // The rows that CopyDown fills share one formula.
+    if (cell->formula.get() == last) continue;
+    last = cell->formula.get();
+    AddLinkedBooks(*last, links);
+  }
+  for (int slot = 0; slot < book.Names().SlotCount(); ++slot)
+    if (const auto& formula = book.Names().At(slot).formula) AddLinkedBooks(*formula, links);
+  return links;
+}
 
 // The formula cell of an item that calculation may evaluate, or null.
 Cell* FormulaCellOf(Workbook& book, const RecalcState::Item& item) {
@@ -301,8 +328,16 @@ void RecalcState::BuildOrder(Workbook& book, RecalcState& state) {
       }
     }
   }
+  state.links = LinkedBooks(book, graph.nodes);
   state.orderValid = true;
-  state.orderGeneration = structureGeneration;
+}
+
+bool RecalcState::LinkChanged() const {
+  const BookRegistry& registry = BookRegistry::Instance();
+  return std::any_of(links.begin(), links.end(), [&registry](const Link& link) {
+    const Workbook* linked = registry.FindById(link.bookId);
+    return (linked != nullptr ? linked->ChangeCount() : 0) != link.seenChangeCount;
+  });
 }
 
 void RecalcState::Run(Workbook& book) {
@@ -310,7 +345,7 @@ void RecalcState::Run(Workbook& book) {
   if (state.busy) return;
   state.busy = true;
   const NameValueScope names;
-  if (!state.orderValid || state.orderGeneration != structureGeneration) BuildOrder(book, state);
+  if (!state.orderValid) BuildOrder(book, state);
   bool changed = false;
   bool settled = true;
   double delta = 0;
@@ -340,9 +375,12 @@ void RecalcState::Run(Workbook& book) {
   state.busy = false;
   state.dirty = false;
   state.settled = settled;
-  BookRegistry& registry = BookRegistry::Instance();
-  if (changed) registry.NoteChange();
-  state.seenChangeCount = registry.ChangeCount();
+  if (changed) ++book.changeCount_;
+  const BookRegistry& registry = BookRegistry::Instance();
+  for (Link& link : state.links) {
+    const Workbook* linked = registry.FindById(link.bookId);
+    link.seenChangeCount = linked != nullptr ? linked->ChangeCount() : 0;
+  }
 }
 
 void Workbook::Recalc() {
@@ -369,17 +407,14 @@ void Workbook::EnsureCalculated() {
   if (!autoRecalc_) return;
   RecalcState& state = RecalcState::Of(*this);
   if (state.busy) return;
-  if (state.dirty || state.seenChangeCount != BookRegistry::Instance().ChangeCount()) Recalc();
+  if (state.dirty || state.LinkChanged()) Recalc();
 }
 
 void Workbook::NoteChange(bool structural) {
   RecalcState& state = RecalcState::Of(*this);
   state.dirty = true;
-  BookRegistry::Instance().NoteChange();
-  if (structural) {
-    state.orderValid = false;
-    ++structureGeneration;
-  }
+  ++changeCount_;
+  if (structural) state.orderValid = false;
 }
 
 }  // namespace gustline::wb

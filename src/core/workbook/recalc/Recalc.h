@@ -31,12 +31,21 @@ class RecalcState {
   // Builds the evaluation order of the book's formula cells.
   static void BuildOrder(Workbook& book, RecalcState& state);
 
+  // A book that formulas or names of this book read through a link, with its change count
+  // as this book's last calculation saw it.
+  struct Link {
+    std::uint64_t bookId;
+    std::uint64_t seenChangeCount;
+  };
+
+  // True when a linked book has changed or closed since the last calculation.
+  bool LinkChanged() const;
+
   bool dirty = true;
   bool busy = false;
   bool orderValid = false;
   bool settled = false;
-  std::uint64_t seenChangeCount = 0;
-  std::uint64_t orderGeneration = 0;
+  std::vector<Link> links;
   std::vector<Item> items;
   std::vector<Group> groups;
 };
