@@ -10,6 +10,7 @@
 
 #include "core/workbook/io/CompoundDocument.h"
 #include "core/workbook/io/LittleEndian.h"
+#include "core/workbook/io/SheetFileCodes.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/CodePage1252.h"
 
@@ -44,18 +45,6 @@ constexpr std::size_t kMaxSheetName = 31;
 constexpr std::uint32_t kStyleXfCount = 15;
 constexpr std::uint32_t kFirstCustomFormat = 164;
 
-// Number formats that Excel knows by index and needs no FORMAT record for.
-constexpr std::array<std::pair<std::string_view, std::uint32_t>, 8> kBuiltInFormats = {{
-    {"General", 0},
-    {"0", 1},
-    {"0.00", 2},
-    {"#,##0", 3},
-    {"#,##0.00", 4},
-    {"0%", 9},
-    {"0.00%", 10},
-    {"0.00E+00", 11},
-}};
-
 void AppendRecord(std::string& out, std::uint32_t type, const std::string& data) {
   AppendU16(out, type);
   AppendU16(out, static_cast<std::uint32_t>(data.size()));
@@ -69,26 +58,6 @@ std::string Bof(std::uint32_t kind) {
   AppendU16(data, 0x0DBB);  // build
   AppendU16(data, 0x07CC);  // year
   return data;
-}
-
-std::uint8_t ErrorByte(ErrorCode code) {
-  switch (code) {
-    case ErrorCode::Null:
-      return 0x00;
-    case ErrorCode::Div0:
-      return 0x07;
-    case ErrorCode::Value:
-      return 0x0F;
-    case ErrorCode::Ref:
-      return 0x17;
-    case ErrorCode::Name:
-      return 0x1D;
-    case ErrorCode::Num:
-      return 0x24;
-    case ErrorCode::NA:
-      return 0x2A;
-  }
-  return 0x2A;
 }
 
 // The number formats of the book's cells, each with its cell format (XF) index.

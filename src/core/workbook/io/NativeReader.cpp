@@ -677,19 +677,7 @@ WorkbookDocument ParseNative(std::istream& in) {
 }
 
 void ReadNative(std::istream& in, Workbook& book) {
-  const WorkbookDocument document = ParseNative(in);
-  {
-    // A book of the same name and sheets takes the content first: a formula that does not
-    // parse or a name the engine refuses shows there, and the real book stays untouched.
-    Workbook scratch(book.BookName());
-    try {
-      ApplyDocument(document, scratch);
-    } catch (const std::exception& error) {
-      throw FacilityError(errc::kFileCorrupt,
-                          "The workbook file is damaged: " + PrintableText(error.what()));
-    }
-  }
-  ApplyDocument(document, book);
+  ApplyReadDocument(ParseNative(in), book);
 }
 
 }  // namespace gustline::wb

@@ -4,6 +4,8 @@
 
 #include "core/workbook/formula/Formula.h"
 #include "core/workbook/model/Workbook.h"
+#include "core/workbook/value/FacilityError.h"
+#include "core/workbook/value/Utf8.h"
 
 namespace gustline::wb {
 namespace {
@@ -121,6 +123,21 @@ void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
   }
   book.SetActiveSheet(document.activeSheet);
   book.NoteChange(true);
+}
+
+void ApplyReadDocument(const WorkbookDocument& document, Workbook& book) {
+  {
+    // A book of the same name and sheets takes the content first: a formula that does not
+    // parse or a name the engine refuses shows there, and the real book stays untouched.
+    Workbook scratch(book.BookName());
+    try {
+      ApplyDocument(document, scratch);
+    } catch (const std::exception& error) {
+      throw FacilityError(errc::kFileCorrupt,
+                          "The workbook file is damaged: " + PrintableText(error.what()));
+    }
+  }
+  ApplyDocument(document, book);
 }
 
 }  // namespace gustline::wb

@@ -69,4 +69,9 @@ WorkbookDocument CaptureDocument(Workbook& book);
 // the book may then be half written, so the reader applies to a scratch book first.
 void ApplyDocument(const WorkbookDocument& document, Workbook& book);
 
+// The same for a document read from a file: applied to a scratch book of the same name
+// first, so that a part that does not apply raises FacilityError(errc::kFileCorrupt) and
+// leaves the book exactly as it was.
+void ApplyReadDocument(const WorkbookDocument& document, Workbook& book);
+
 }  // namespace gustline::wb

@@ -4,6 +4,7 @@
 #include "core/workbook/io/AtomicFile.h"
 #include "core/workbook/io/Biff5Writer.h"
 #include "core/workbook/io/NativeFormat.h"
+#include "core/workbook/io/StoredFormat.h"
 #include "core/workbook/io/TextFormat.h"
 #include "core/workbook/model/Workbook.h"
 #include "core/workbook/value/FacilityError.h"
@@ -23,10 +24,12 @@ struct FileReader {
   void (*read)(std::istream& in, Workbook& book);
 };
 
-// Tried in order; only the book's own format is read, so that a tab-delimited text or any
-// other file given as a project is refused as corrupt and never replaces it.
+// Tried in order; only the book's own formats are read, so that a tab-delimited text or any
+// other file given as a project is refused as corrupt and never replaces it. The stored
+// record stream of earlier versions reads as a book of type 5, as it was saved.
 constexpr FileReader kReaders[] = {
     {FileType::Native, LooksNative, ReadNative},
+    {FileType::Native, LooksStored, ReadStored},
 };
 
 }  // namespace
