@@ -55,7 +55,7 @@ class RecordReader {
   [[noreturn]] void Fail(const std::string& what) const { RecordFail(record_, what); }
 
  private:
-  const Record& record_;
+  Record record_;
   std::size_t position_ = 0;
 };
 

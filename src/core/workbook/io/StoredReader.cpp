@@ -292,8 +292,8 @@ class StoredBuilder {
     std::uint32_t number = 0;
     if (!(style == CellStyle{})) {
       const auto known = std::find(document_.styles.begin(), document_.styles.end(), style);
-      if (known == document_.styles.end()) document_.styles.push_back(style);
       number = static_cast<std::uint32_t>(known - document_.styles.begin()) + 1;
+      if (known == document_.styles.end()) document_.styles.push_back(style);
     }
     styleOfFormat_.emplace(index, number);
     return number;
