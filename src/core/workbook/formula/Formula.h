@@ -45,6 +45,12 @@ std::string FormulaText(const Formula& formula, const FormulaHost& host);
 // Evaluates against the cached values of the cells it reads. Never throws.
 Value Evaluate(const Formula& formula, const FormulaHost& host);
 
+// True when the formula calls NOW, whose value moves at every calculation.
+bool ReadsClock(const Formula& formula);
+// True when the formula reads no cell, name or clock: it keeps its value for ever, and
+// parsing its printed text again gives the same formula.
+bool ReadsNothing(const Formula& formula);
+
 // True when the formula names a book in brackets that was not open when it was parsed;
 // such a cell keeps its cached value at recalculation.
 bool HasUnboundLink(const Formula& formula);

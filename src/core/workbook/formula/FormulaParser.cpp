@@ -500,6 +500,17 @@ std::shared_ptr<const Formula> RebindFormula(const std::shared_ptr<const Formula
   return copy;
 }
 
+bool ReadsClock(const Formula& formula) {
+  static const std::int32_t now = FindFunction("NOW");
+  return std::any_of(formula.nodes.begin(), formula.nodes.end(), [](const Formula::Node& node) {
+    return node.kind == Formula::Kind::Call && node.aux == now;
+  });
+}
+
+bool ReadsNothing(const Formula& formula) {
+  return formula.refs.empty() && formula.names.empty() && !ReadsClock(formula);
+}
+
 bool HasUnboundLink(const Formula& formula) {
   return formula.unboundLink;
 }

@@ -146,14 +146,22 @@ void Workbook::SetCellFormula(int row, int col, std::string_view formula) {
 void Workbook::ReenterFormula(int row, int col) {
   CheckCell(row, col);
   Cell* cell = Active().Find(row, col);
-  const FormulaHost host = HostOf(row, col);
-  auto rebound =
-      cell != nullptr && cell->IsFormula() ? RebindFormula(cell->formula, host) : nullptr;
-  if (!rebound) return SetCellFormula(row, col, CellFormula(row, col));
-  // A formula that keeps every binding reads the same cells: the order of calculation stays.
-  const bool moved = rebound != cell->formula;
+  const bool isFormula = cell != nullptr && cell->IsFormula();
+  auto rebound = isFormula ? RebindFormula(cell->formula, HostOf(row, col)) : nullptr;
+  if (!rebound) {
+    const std::string text = CellFormula(row, col);
+    // Only a single literal reads back otherwise than it stands: as the constant.
+    if (isFormula && ReadsNothing(*cell->formula) && !LiteralOf(text)) return;
+    return SetCellFormula(row, col, text);
+  }
+  // A formula that keeps every binding reads the same cells and calculates the same, the
+  // clock apart; a change in a book it links to is followed without it.
+  if (rebound == cell->formula) {
+    if (ReadsClock(*rebound)) NoteChange(false);
+    return;
+  }
   cell->formula = std::move(rebound);
-  NoteChange(moved);
+  NoteChange(true);
 }
 
 Value Workbook::CellValue(int row, int col) {
