@@ -8,6 +8,7 @@
 #include "core/FileOpen.h"
 #include "core/FileSave.h"
 #include "core/FileSaveAs.h"
+#include "factors/qt/frmGustCalc.h"
 #include "factors/qt/frmMinPressure.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
@@ -163,7 +164,10 @@ std::vector<MainFrm::MenuEntry> MainFrm::MenuEntries() {
        [](MainFrm& w) { w.FormatNumber(); }},
 
       {Menu, "", "mnuTools", "&Tools"},
-      {Command, "mnuTools", "mnuToolsGustCalc", "&Gust Factor Calculator..."},
+      {Command, "mnuTools", "mnuToolsGustCalc", "&Gust Factor Calculator...", "",
+       [](MainFrm& w) {
+         if (w.app_) ShowGustCalc(&w, *w.app_);
+       }},
       {Once, "mnuTools", "mnuToolsConvert", "&Convert Wind..."},
       {Once, "mnuTools", "mnuToolsCustomize", "C&ustomize..."},
       {Once, "mnuTools", "mnuOptions", "&Options..."},
