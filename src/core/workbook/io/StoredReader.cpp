@@ -528,7 +528,10 @@ class StoredBuilder {
                                     " out of range: the book has " +
                                     std::to_string(sheetNames.size()) + " sheets");
       const TokenContext context{globalLinks_, nameTexts, sheetNames, bookName_, {1, 1}};
-      const std::string text = TokenFormulaText(name.tokens, context, name.record, used[i]);
+      std::string text = TokenFormulaText(name.tokens, context, name.record, used[i]);
+      // A name keeps its text as given, so it takes the text our printer would give.
+      const FormulaHost host{&trial, 0, {1, 1}};
+      Try(name.record, text, [&] { text = FormulaText(*ParseFormula(text, host), host); });
       if (name.printArea) {
         document_.sheets[static_cast<std::size_t>(name.sheet - 1)].print.printArea = text;
         continue;

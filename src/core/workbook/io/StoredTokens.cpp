@@ -131,8 +131,10 @@ class TokenDecoder {
                    std::to_string(context_.names.size()));
         return UseName(context_.names[position - 1u], "");
       }
-      case 0x24:
-        return Push(Corner(in_.U16(), in_.U8()), kOperand, 1);
+      case 0x24: {
+        const std::uint16_t row = in_.U16();
+        return Push(Corner(row, in_.U8()), kOperand, 1);
+      }
       case 0x25:
         return Area("");
       case 0x26:
