@@ -25,8 +25,4 @@ struct FreeRoof {
 // in the dialog and at report time alike.
 Message Note5RatioRefusal();
 
-// The slider beside the angle box, in whole degrees from 0 to 45, takes the whole part of
-// the box's number; a box without a number puts it at 0.
-int RoofAngleSliderPosition(std::string_view boxText);
-
 }  // namespace gustline

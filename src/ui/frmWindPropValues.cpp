@@ -1,5 +1,7 @@
 #include "ui/frmWindPropValues.h"
 
+#include <variant>
+
 #include "core/workbook/model/NamedCells.h"
 #include "ui/rules/FieldCells.h"
 #include "ui/rules/FieldNumber.h"
@@ -35,6 +37,20 @@ WindProperties LoadWindProperties(wb::Workbook& project) {
   v.note5Applies = wb::ReadNamedNumber(project, "Note5Applies");
   v.interval = wb::ReadNamedInt(project, "Interval");
   return v;
+}
+
+WindProperties MergeProjectChanges(WindProperties shown, const WindProperties& loaded,
+                                   const WindProperties& project) {
+  const auto take = [&](auto member) {
+    if (loaded.*member != project.*member) shown.*member = project.*member;
+  };
+  for (const auto& field : kWindPropertiesFields) std::visit(take, field.member);
+  take(&WindProperties::figure);
+  take(&WindProperties::table);
+  take(&WindProperties::table66RoofType);
+  take(&WindProperties::note5Applies);
+  take(&WindProperties::interval);
+  return shown;
 }
 
 void SaveWindProperties(wb::Workbook& project, const WindProperties& v, int tab) {

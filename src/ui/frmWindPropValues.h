@@ -40,6 +40,7 @@ struct WindProperties {
   double table66RoofType = 1;  // carried from the figure dialogs, written back unchanged
   double note5Applies = 0;
   int interval = 0;  // read only: 5 takes the height from the user's intervals
+  bool operator==(const WindProperties&) const = default;
 };
 
 // The controls of the form; the text boxes are checked at OK in this order. The category
@@ -104,6 +105,12 @@ void SetCategory(Values& values, int category) {
 }
 
 WindProperties LoadWindProperties(wb::Workbook& project);
+
+// What the dialog shows when it is activated again: a value that changed in the project
+// since `loaded` was read (another project opened, a figure dialog's write) is the
+// project's, and the others keep what the dialog shows.
+WindProperties MergeProjectChanges(WindProperties shown, const WindProperties& loaded,
+                                   const WindProperties& project);
 
 // Writes every cell of the dialog, as its deactivation does after OK; `tab` is the tab on
 // show, whose topography path also resets the qi height of Figure 6-6 to `Height`.

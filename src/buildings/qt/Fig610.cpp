@@ -2,7 +2,7 @@
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/workbook/value/NumberFormat.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig610.h"
 
@@ -11,9 +11,7 @@ namespace gustline {
 Fig610::Fig610(Application& app, QWidget* parent)
     : QDialog(parent), app_(app), ui_(std::make_unique<Ui::Fig610>()) {
   ui_->setupUi(this);
-  connect(ui_->Slider1, &QSlider::valueChanged, this, [this](int value) {
-    ui_->Text1->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));
-  });
+  rules::FollowAngle(*ui_->Text1, *ui_->Slider1);
   connect(ui_->Check1, &QCheckBox::toggled, ui_->Text2, &QLineEdit::setEnabled);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &QDialog::reject);

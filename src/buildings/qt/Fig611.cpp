@@ -8,7 +8,7 @@
 #include "core/FacilityErrorReport.h"
 #include "core/ProcessState.h"
 #include "core/workbook/value/FacilityError.h"
-#include "core/workbook/value/NumberFormat.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig611.h"
 
@@ -21,9 +21,7 @@ Fig611::Fig611(Application& app, int roofType, QWidget* parent)
   connect(roofType_, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
     if (checked) Option1_Click(id);
   });
-  connect(ui_->Slider1, &QSlider::valueChanged, this, [this](int value) {
-    ui_->Text6->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));
-  });
+  rules::FollowAngle(*ui_->Text6, *ui_->Slider1);
   connect(ui_->Check1, &QCheckBox::toggled, ui_->Text9, &QLineEdit::setEnabled);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &QDialog::reject);

@@ -2,7 +2,7 @@
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/workbook/value/NumberFormat.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig617.h"
 
@@ -11,9 +11,7 @@ namespace gustline {
 Fig617::Fig617(Application& app, QWidget* parent)
     : QDialog(parent), app_(app), ui_(std::make_unique<Ui::Fig617>()) {
   ui_->setupUi(this);
-  connect(ui_->Slider1, &QSlider::valueChanged, this, [this](int value) {
-    ui_->Text6->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));
-  });
+  rules::FollowAngle(*ui_->Text6, *ui_->Slider1);
   connect(ui_->Option1_0, &QRadioButton::toggled, this, [this] { UpdateQiFields(); });
   connect(ui_->Check1, &QCheckBox::toggled, ui_->Text8, &QLineEdit::setEnabled);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });

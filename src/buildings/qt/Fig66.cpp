@@ -2,7 +2,7 @@
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "core/workbook/value/NumberFormat.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig66.h"
 
@@ -13,13 +13,8 @@ Fig66::Fig66(Application& app, std::function<void()> wallGeometry, QWidget* pare
   ui_->setupUi(this);
   ui_->Command3->setEnabled(static_cast<bool>(wallGeometry));
   if (wallGeometry) connect(ui_->Command3, &QPushButton::clicked, this, std::move(wallGeometry));
-  const auto sliderToField = [](QLineEdit* field) {
-    return [field](int value) {
-      field->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));
-    };
-  };
-  connect(ui_->Slider1, &QSlider::valueChanged, this, sliderToField(ui_->Text2));
-  connect(ui_->Slider2, &QSlider::valueChanged, this, sliderToField(ui_->Text3));
+  rules::FollowAngle(*ui_->Text2, *ui_->Slider1);
+  rules::FollowAngle(*ui_->Text3, *ui_->Slider2);
   connect(ui_->Option1_0, &QRadioButton::toggled, this, [this] { UpdateQiFields(); });
   connect(ui_->Check1, &QCheckBox::toggled, ui_->Text7, &QLineEdit::setEnabled);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });

@@ -5,9 +5,7 @@
 #include <QRadioButton>
 #include <QScopeGuard>
 #include <QShowEvent>
-#include <QSignalBlocker>
 #include <QTimer>
-#include <cmath>
 #include <utility>
 
 #include "core/Application.h"
@@ -18,10 +16,9 @@
 #include "core/ReportHook.h"
 #include "core/workbook/model/NamedCells.h"
 #include "core/workbook/value/FacilityError.h"
-#include "core/workbook/value/NumberFormat.h"
 #include "simplified/qt/WindAreasFrm.h"
 #include "ui/frmWindPropStatus.h"
-#include "ui/rules/FieldNumber.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/FormFields.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_frmSimplified.h"
@@ -45,15 +42,7 @@ frmSimplified::frmSimplified(Application& app, QWidget* parent)
   connect(ui_->Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
     app_.view.SetStatusPanel(kWindSpeedPanel, WindSpeedPanelText(text.toStdString()));
   });
-  connect(ui_->Slider1, &QSlider::valueChanged, this, [this](int value) {
-    ui_->Text6->setText(QString::fromStdString(wb::FormatNumber(value, "0.00")));
-  });
-  connect(ui_->Text6, &QLineEdit::textChanged, this, [this](const QString& text) {
-    const double angle = rules::FieldValue(text.toStdString());
-    if (angle < 0) return;
-    const QSignalBlocker keepText(ui_->Slider1);
-    ui_->Slider1->setValue(static_cast<int>(std::trunc(angle)));
-  });
+  rules::FollowAngle(*ui_->Text6, *ui_->Slider1);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   connect(ui_->Command2, &QPushButton::clicked, this, &frmSimplified::reject);
   connect(ui_->Command3, &QPushButton::clicked, this, [this] { Command3_Click(); });

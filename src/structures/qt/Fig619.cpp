@@ -5,7 +5,7 @@
 
 #include "core/Application.h"
 #include "core/ProcessState.h"
-#include "structures/qt/RoofAngleSlider.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Fig619.h"
 
@@ -18,7 +18,7 @@ Fig619::Fig619(Application& app, QWidget* parent)
                          ui_->Zone2AreaEditBox, ui_->Zone3AreaEditBox}) {
     box->installEventFilter(this);
   }
-  FollowRoofAngle(*ui_->RoofAngleEditBox, *ui_->RoofAngleSlider);
+  rules::FollowAngle(*ui_->RoofAngleEditBox, *ui_->RoofAngleSlider);
   connect(ui_->OKButton, &QPushButton::clicked, this, [this] { OKButton_Click(); });
   connect(ui_->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
   const Fig619Values v = LoadFig619(app_.state.ProjectWorkbook());

@@ -7,7 +7,7 @@
 #include "core/ProcessState.h"
 #include "core/workbook/model/NamedCells.h"
 #include "core/workbook/value/FacilityError.h"
-#include "structures/qt/RoofAngleSlider.h"
+#include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Figure618.h"
 
@@ -20,7 +20,7 @@ Figure618::Figure618(Application& app, QWidget* parent)
   connect(roofType_, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
     if (checked) RoofTypeOption_Click(FreeRoof::kMonoslope + id);
   });
-  FollowRoofAngle(*ui_->RoofAngleEditBox, *ui_->RoofAngleSlider);
+  rules::FollowAngle(*ui_->RoofAngleEditBox, *ui_->RoofAngleSlider);
   connect(ui_->OKButton, &QPushButton::clicked, this, [this] { OKButton_Click(); });
   connect(ui_->CancelButton, &QPushButton::clicked, this, &QDialog::reject);
   ShowValues(LoadFigure618(app_.state.ProjectWorkbook()));

@@ -6,6 +6,7 @@
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
+#include "ui/rules/qt/FieldDisplay.h"
 #include "ui/rules/qt/PropertyDialog.h"
 #include "ui_Headings.h"
 
@@ -35,6 +36,7 @@ HeadingsValues Headings::Values() const {
 
 void Headings::ShowValues(const HeadingsValues& v) {
   rules::ShowFields(*this, kHeadingsFields, v);
+  rules::FitTextBoxes(*this);
 }
 
 void Headings::Text1_Change(const QString& text) {

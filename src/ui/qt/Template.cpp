@@ -6,6 +6,7 @@
 #include "core/ProcessState.h"
 #include "core/StatusSummary.h"
 #include "core/workbook/value/FacilityError.h"
+#include "ui/rules/qt/FieldDisplay.h"
 #include "ui/rules/qt/FormFields.h"
 #include "ui_Template.h"
 
@@ -30,6 +31,7 @@ TemplateChoice Template::Values() const {
 
 void Template::ShowValues(const TemplateChoice& v) {
   rules::ShowFields(*this, kTemplateFields, v);
+  rules::FitTextBoxes(*this);
 }
 
 void Template::Command1_Click() {

@@ -1,6 +1,7 @@
 #include "ui/qt/frmWindProp.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QPointer>
 #include <QRadioButton>
 #include <QShowEvent>
@@ -246,12 +247,37 @@ void frmWindProp::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) Form_Activate();
 }
 
+bool frmWindProp::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate && isVisible()) Form_Reactivate();
+  return QDialog::event(event);
+}
+
 void frmWindProp::Form_Activate() {
   try {
-    ShowValues(LoadWindProperties(app_.state.ProjectWorkbook()));
+    loaded_ = LoadWindProperties(app_.state.ProjectWorkbook());
+    ShowValues(loaded_);
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_.prompt, error);
   }
+  UpdateScreens();
+  heightAtActivation_ = Text(ui_->Text1);
+}
+
+void frmWindProp::Form_Reactivate() {
+  try {
+    const WindProperties project = LoadWindProperties(app_.state.ProjectWorkbook());
+    // Unchanged, the screens stay as they are: their warnings come once.
+    if (project == loaded_) return;
+    ShowValues(MergeProjectChanges(Values(), loaded_, project));
+    loaded_ = project;
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+    return;
+  }
+  UpdateScreens();
+}
+
+void frmWindProp::UpdateScreens() {
   UpdatePressureScreen();
   UpdateGustScreen();
   UpdateForceFactorScreen();
@@ -259,7 +285,15 @@ void frmWindProp::Form_Activate() {
   UpdateRiFrame();
   UpdateStatus();
   UpdateDensityLabels();
-  heightAtActivation_ = Text(ui_->Text1);
+}
+
+void frmWindProp::reject() {
+  QDialog::reject();
+  try {
+    UpdateStatusSummary(app_.state.ProjectWorkbook(), app_.view);
+  } catch (const wb::FacilityError& error) {
+    ReportFacilityError(app_.prompt, error);
+  }
 }
 
 void frmWindProp::Command1_Click() {

@@ -27,7 +27,9 @@ struct Application;
 // B, C, D), Option5_n (GustType), Option6_n (HillType), Option7_n (the enclosure class
 // n of Table64, shown enclosed first), Option8_0 (Ri = 1.0) and Option8_1 (compute Ri).
 // Its values are loaded from WindData when it is shown and written back when OK hides it;
-// Command2, the close box and Escape hide it and write nothing.
+// each later activation takes what changed in WindData meanwhile (another project opened).
+// Command2, the close box and Escape hide it, write nothing and show the project's values
+// in the status panels again.
 class frmWindProp : public QDialog {
   Q_OBJECT
 
@@ -57,11 +59,16 @@ class frmWindProp : public QDialog {
   // itself afterwards; meanwhile leaving this form writes the cells only.
   void SetReportOnLeave(bool on) { reportOnLeave_ = on; }
 
+  void reject() override;
+
  protected:
+  bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   void Form_Activate();
+  void Form_Reactivate();
+  void UpdateScreens();
   void SystemOrStructureChanged();
   void TabChanged(int tab);
   void UpdateRiFrame();
@@ -82,6 +89,7 @@ class frmWindProp : public QDialog {
   // What the dialog holds beyond its controls: the figure and table chosen, the values
   // carried from the figure dialogs, the interval method, and the height at activation.
   WindProperties held_;
+  WindProperties loaded_;  // the project's values at the last activation
   std::string heightAtActivation_;
   bool reportOnLeave_ = true;
   FigureDialogs figureDialogs_;

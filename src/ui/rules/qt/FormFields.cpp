@@ -11,6 +11,7 @@
 
 #include "ui/rules/CheckForm.h"
 #include "ui/rules/RuleField.h"
+#include "ui/rules/qt/FieldDisplay.h"
 
 namespace gustline::rules {
 namespace {
@@ -67,7 +68,10 @@ class TextBoxRule : public RuleField {
   std::string Rule() const override { return std::string(rule_); }
   std::string Text() const override { return box_.text().toStdString(); }
   bool IsEnabled() const override { return box_.isEnabled(); }
-  void SetFocus() override { box_.setFocus(); }
+  void SetFocus() override {
+    BringForward(box_);
+    box_.setFocus();
+  }
 
  private:
   QLineEdit& box_;
