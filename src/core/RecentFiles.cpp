@@ -8,13 +8,10 @@ void RecentFiles::Load(Settings& settings) {
   for (int i = 0; i < kCount; ++i) {
     RecentEntry& entry = entries_[static_cast<std::size_t>(i)];
     entry.caption = settings.GetSetting(RecentFileKey(i), i == 0 ? kEmptyRecentEntry : "");
-    if (!entry.caption.empty()) entry.visible = entry.enabled = true;
-  }
-  // Only the first entry is checked for the placeholder: a "(Empty)" that was pushed down
-  // the list by an open comes back enabled at the next start.
-  if (entries_[0].caption == kEmptyRecentEntry) {
-    entries_[0].visible = true;
-    entries_[0].enabled = false;
+    // The placeholder stands for an empty list only: below a name it is not shown.
+    if (i > 0 && entry.caption == kEmptyRecentEntry) entry.caption.clear();
+    entry.visible = !entry.caption.empty();
+    entry.enabled = entry.visible && entry.caption != kEmptyRecentEntry;
   }
 }
 
@@ -24,6 +21,7 @@ void RecentFiles::Save(Settings& settings) const {
 }
 
 void RecentFiles::Add(std::string_view name) {
+  if (entries_[0].caption == kEmptyRecentEntry) entries_[0].caption.clear();
   std::size_t from = kCount - 1;
   for (std::size_t i = 0; i < entries_.size(); ++i) {
     if (entries_[i].caption == name) {
@@ -33,10 +31,7 @@ void RecentFiles::Add(std::string_view name) {
   }
   for (std::size_t i = from; i >= 1; --i) entries_[i].caption = entries_[i - 1].caption;
   entries_[0].caption = std::string(name);
-  for (RecentEntry& entry : entries_) {
-    if (!entry.caption.empty()) entry.visible = entry.enabled = true;
-    if (entry.caption == kEmptyRecentEntry) entry.enabled = false;
-  }
+  for (RecentEntry& entry : entries_) entry.visible = entry.enabled = !entry.caption.empty();
 }
 
 }  // namespace gustline

@@ -25,10 +25,11 @@ class RecentFiles {
  public:
   static constexpr int kCount = 4;
 
-  // Captions from File0 to File3; an entry with an empty caption keeps its state.
+  // Captions from File0 to File3; an empty caption hides its entry.
   void Load(Settings& settings);
   void Save(Settings& settings) const;
-  // Puts the name on top; a name already listed moves up, else the oldest drops off.
+  // Puts the name on top; a name already listed moves up, else the oldest drops off. The
+  // placeholder of an empty list goes with the first name.
   void Add(std::string_view name);
 
   const RecentEntry& Entry(int index) const { return entries_.at(static_cast<std::size_t>(index)); }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -44,19 +45,22 @@ TEST(RecentFiles, FiveOpensKeepTheLastFourNewestFirst) {
     EXPECT_EQ(files.Entry(i), (RecentEntry{Captions(files)[i], true, true})) << i;
 }
 
-// The placeholder moves down with the first open and stays disabled; after a restart only
-// the first entry is checked for it, so it comes back enabled.
-TEST(RecentFiles, PlaceholderPushedDownIsDisabledUntilTheNextStart) {
+// The placeholder goes with the first open, and one that older settings kept below a name
+// is not shown after a restart.
+TEST(RecentFiles, NoPlaceholderStandsBelowAName) {
   RecentFiles files = Loaded({});
   files.Add("a.gln");
-  EXPECT_EQ(files.Entry(1), (RecentEntry{"(Empty)", true, false}));
-
   MemorySettings settings;
   files.Save(settings);
-  EXPECT_EQ(settings.values.at("File1"), "(Empty)");
   RecentFiles restarted;
   restarted.Load(settings);
-  EXPECT_EQ(restarted.Entry(1), (RecentEntry{"(Empty)", true, true}));
+  const RecentFiles older = Loaded({"a.gln", "(Empty)"});
+  for (const RecentFiles* list :
+       std::initializer_list<const RecentFiles*>{&files, &restarted, &older}) {
+    EXPECT_EQ(list->Entry(0), (RecentEntry{"a.gln", true, true}));
+    for (int i = 1; i < RecentFiles::kCount; ++i)
+      EXPECT_EQ(list->Entry(i), (RecentEntry{"", false, false})) << i;
+  }
 }
 
 }  // namespace
