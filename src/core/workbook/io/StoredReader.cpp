@@ -454,6 +454,7 @@ class StoredBuilder {
     for (const SheetRecord& other : document_.sheets)
       if (EqualNoCase(other.name, name)) in.Fail("the sheet " + PrintableText(name) + " twice");
     document_.sheets.emplace_back().name = name;
+    sheetEntries_.push_back(in.Source());
     sheetLinks_.emplace_back();
     hiddenRows_.emplace_back();
   }
@@ -510,12 +511,17 @@ class StoredBuilder {
     }
     std::vector<std::string> sheetNames;
     Workbook trial(std::string{bookName_});
-    for (const SheetRecord& sheet : document_.sheets) {
-      sheetNames.push_back(sheet.name);
-      if (sheetNames.size() == 1)
-        trial.SetSheetName(1, sheet.name);
-      else
-        trial.AddSheet(sheet.name);
+    for (std::size_t i = 0; i < document_.sheets.size(); ++i) {
+      const std::string& name = document_.sheets[i].name;
+      sheetNames.push_back(name);
+      try {
+        if (i == 0)
+          trial.SetSheetName(1, name);
+        else
+          trial.AddSheet(name);
+      } catch (const FacilityError& error) {
+        RecordFail(sheetEntries_[i], error.what());
+      }
     }
     std::vector<std::string> nameTexts;
     for (const PendingName& name : names_) nameTexts.push_back(name.name);
@@ -622,6 +628,7 @@ class StoredBuilder {
   StoredStyles styles_;
   std::unordered_map<std::uint16_t, std::uint32_t> styleOfFormat_;
   std::vector<StoredLink> globalLinks_;
+  std::vector<Record> sheetEntries_;
   std::vector<std::vector<StoredLink>> sheetLinks_;
   std::vector<std::set<int>> hiddenRows_;
   std::vector<PendingName> names_;
