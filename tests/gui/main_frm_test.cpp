@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QMenu>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -12,6 +15,7 @@
 #include "core/Prompt.h"
 #include "core/ReportHook.h"
 #include "core/Settings.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"
 
@@ -99,6 +103,33 @@ TEST(MainFrm, FullScreenHidesMenusAndBarsAndNormalRestoresThem) {
   EXPECT_TRUE(window.menuWidget()->isVisible());
   EXPECT_FALSE(window.statusBar()->isVisible());
   EXPECT_FALSE(window.findChild<QMenu*>(QStringLiteral("mnuTools"))->menuAction()->isVisible());
+}
+
+// Copy puts the selected cells on the system clipboard as shown, for a spreadsheet and for
+// a word processor; the row the page hides stays behind.
+TEST(MainFrm, CopyPutsTheSelectionOnTheClipboardAsShown) {
+  for (const char* command : {"mnuEditCopy", "mnuPopupCopy"}) {
+    WindowFixture fixture;
+    wb::Workbook& report = fixture.state.ReportWorkbook();
+    report.SetCellText(1, 1, "qz <psf>");
+    wb::CellStyle bold;
+    bold.font.bold = true;
+    report.SetCellStyle(1, 1, bold);
+    report.SetCellNumber(1, 2, 17.428542);
+    report.SetSelection("B1");
+    report.SetNumberFormat("0.00");
+    report.SetCellText(2, 1, "hidden");
+    report.SetRowHidden(2, true);
+    report.SetCellText(3, 1, "Kzt");
+    report.SetCellNumber(3, 2, 1);
+    report.SetSelection("A1:B3");
+    fixture.window.Command(command)->trigger();
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(data->text(), QStringLiteral("qz <psf>\t17.43\r\nKzt\t1\r\n")) << command;
+    EXPECT_EQ(data->html(), QStringLiteral("<table><tr><td><b>qz &lt;psf&gt;</b></td><td>17.43</td>"
+                                           "</tr><tr><td>Kzt</td><td>1</td></tr></table>"))
+        << command;
+  }
 }
 
 TEST(MainFrm, HelpWithoutTheManualSaysSo) {

@@ -1,9 +1,12 @@
 // The handlers of the main window's own commands, and the dialogs of the procedures it hands
 // to the wind properties dialog; the other commands are the core's and the dialogs' own.
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QInputDialog>
+#include <QMimeData>
 #include <QScopeGuard>
 #include <QUrl>
 
@@ -27,6 +30,7 @@
 #include "core/workbook/value/FacilityError.h"
 #include "factors/qt/frmTopography.h"
 #include "geometry/qt/Geometry.h"
+#include "report/ReportClipboard.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/ReportPrinting.h"
 #include "simplified/qt/frmSimplified.h"
@@ -119,7 +123,13 @@ void MainFrm::FileExitCommand() {
 void MainFrm::EditCopy() {
   if (!app_) return;
   try {
-    app_->state.ReportWorkbook().CopySelection();
+    wb::Workbook& report = app_->state.ReportWorkbook();
+    report.CopySelection();
+    const report::ClipboardCopy copy = report::CopyForClipboard(report);
+    auto* data = new QMimeData;
+    data->setText(QString::fromStdString(copy.text));
+    data->setHtml(QString::fromStdString(copy.html));
+    QGuiApplication::clipboard()->setMimeData(data);
   } catch (const wb::FacilityError& error) {
     ReportFacilityError(app_->prompt, error);
   }
