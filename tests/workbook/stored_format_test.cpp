@@ -204,7 +204,9 @@ TEST(StoredFormat, DamagedStreamsNameTheirRecord) {
       {OneSheet(Number(20000, 0, 1)), "row 20001, column 1 lies outside the sheet"},
       {OneSheet(Fixed(0x03, Head(0, 0, 9) + F64(1))), "cell format 9 where the book has 2"},
       {good.substr(0, sheetStart), "the file ends before sheet 1"},
-      {Book("", {{"Sheet1", ""}, {"S]", ""}}), "record 0x85 (sheet entry) at offset 57"},
+      {Book("", {{"Sheet1", ""}, {"S]", ""}}), "record 0x85 (sheet entry) at offset 84"},
+      {OneSheet(Sized(0xA1, U16(1) + U16(100) + U16(1) + U16(40000) + U16(1) + U16(0))),
+       "a count of pages beyond 32767"},
       {Begin(0x10) + End(), "record 0x09 (begin) at offset 0: a book opens with its globals"},
       {"", "the file is empty"},
   };

@@ -435,6 +435,7 @@ class StoredBuilder {
     const std::uint16_t wide = in.U16();
     const std::uint16_t tall = in.U16();
     const std::uint16_t options = in.U16();
+    if (wide > 32767 || tall > 32767) in.Fail("a count of pages beyond 32767");
     print.pagesWide = wide;
     print.pagesTall = tall;
     print.leftToRight = (options & 0x0001) != 0;
