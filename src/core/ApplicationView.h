@@ -9,6 +9,10 @@
 
 namespace gustline {
 
+namespace wb {
+class Workbook;
+}
+
 // What the core asks of the main window: the status bar and its five panels, the progress
 // bar, the caption, the zoom, the two bars, the recent list and the window itself. The GUI
 // implements it on its widgets; the command line uses NullView and tests RecordingView.
@@ -44,6 +48,8 @@ class ApplicationView {
   virtual void SetStatusbarVisible(bool visible) = 0;
   virtual bool StatusbarVisible() const = 0;
   virtual void ShowRecentFiles(const RecentFiles& recentFiles) = 0;
+  // The report printed into a PDF file, page for page as the printer prints it.
+  virtual void PrintReportToPdf(wb::Workbook& report, const std::string& path) = 0;
 };
 
 // A window that is not there; it remembers only what the core reads back.
@@ -69,6 +75,7 @@ class NullView : public ApplicationView {
   void SetStatusbarVisible(bool visible) override { statusbarVisible_ = visible; }
   bool StatusbarVisible() const override { return statusbarVisible_; }
   void ShowRecentFiles(const RecentFiles&) override {}
+  void PrintReportToPdf(wb::Workbook&, const std::string&) override {}
 
  private:
   int zoomIndex_ = 5;
@@ -101,6 +108,7 @@ class RecordingView : public ApplicationView {
   void SetStatusbarVisible(bool visible) override { statusbarVisible = visible; }
   bool StatusbarVisible() const override { return statusbarVisible; }
   void ShowRecentFiles(const RecentFiles& shown) override { recentFiles = shown; }
+  void PrintReportToPdf(wb::Workbook&, const std::string& path) override { pdfPath = path; }
 
   bool splashShown = false;
   bool mainWindowShown = false;
@@ -118,6 +126,7 @@ class RecordingView : public ApplicationView {
   bool toolbarVisible = false;
   bool statusbarVisible = false;
   RecentFiles recentFiles;
+  std::string pdfPath;
 };
 
 }  // namespace gustline

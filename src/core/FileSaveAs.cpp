@@ -50,6 +50,9 @@ bool FileSaveAs(Application& app) {
       case kExcelExportType:
         ExportReport(app, path, wb::FileType::Excel5);
         break;
+      case kPdfExportType:
+        app.view.PrintReportToPdf(state.ReportWorkbook(), path);
+        break;
       case kTemplateFileType:
         WriteProject(app, path);
         state.currentFileName = ProjectNameFromTemplate(path);

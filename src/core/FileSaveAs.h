@@ -14,7 +14,7 @@ struct Application;
 void ExportReport(Application& app, const std::string& path, wb::FileType type);
 
 // The command Save As: the name chosen decides by its extension what is written, the
-// project, the report as text or Excel 5.0, or the project as a template. Only a project
+// project, the report as text, Excel 5.0 or PDF, or the project as a template. Only a project
 // saved as such takes the new name. The modified flag is cleared afterwards, after an
 // export too, and after a name whose extension writes nothing. A cancelled dialog or a
 // failed write ends the command without a message, the flag as it was; the result is

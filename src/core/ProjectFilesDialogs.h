@@ -24,7 +24,14 @@ inline FileRequest SaveAsRequest() {
   return ProjectFileRequest(
       "Save As",
       "Gustline File (*.GLN)|*.GLN|Report As Text Tab Delimited (*.TXT)|*.TXT|"
-      "Report As Microsoft Excel 5.0 (*.XLS)|*.XLS|Template (*.GLT)|*.GLT");
+      "Report As Microsoft Excel 5.0 (*.XLS)|*.XLS|Template (*.GLT)|*.GLT|PDF (*.PDF)|*.PDF");
+}
+
+// Printing without a printer: the report as a PDF file instead.
+inline FileRequest PrintToPdfRequest() {
+  FileRequest request = ProjectFileRequest("Print to PDF", "PDF (*.PDF)|*.PDF");
+  request.defaultExtension = "PDF";
+  return request;
 }
 
 inline FileRequest ActiveTemplateRequest() {

@@ -31,6 +31,7 @@ std::optional<int> FileTypeOfName(std::string_view path) {
   if (is("glt") || is("glu")) return kTemplateFileType;
   if (is("xls")) return kExcelExportType;
   if (is("txt")) return kTextExportType;
+  if (is("pdf")) return kPdfExportType;
   return std::nullopt;
 }
 

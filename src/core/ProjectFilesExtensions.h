@@ -11,6 +11,7 @@ inline constexpr int kProjectFileType = 5;       // ".gln", and the older ".glz"
 inline constexpr int kTemplateFileType = 30001;  // ".glt", and the older ".glu"
 inline constexpr int kExcelExportType = 4;       // ".xls"
 inline constexpr int kTextExportType = 3;        // ".txt"
+inline constexpr int kPdfExportType = 30002;     // ".pdf", the report as it prints
 
 // The text after a dot found from the fourth-last character on, so that only extensions
 // of up to three letters count; empty when there is no such dot.

@@ -6,10 +6,16 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
+#include <QPrinterInfo>
 #include <QStatusBar>
 #include <QToolBar>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
 
 #include "GuiApp.h"
+#include "TempFolder.h"
 #include "core/Application.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
@@ -18,6 +24,7 @@
 #include "core/workbook/model/Workbook.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"
+#include "report/qt/ReportPrinting.h"
 
 namespace gustline {
 namespace {
@@ -129,6 +136,38 @@ TEST(MainFrm, CopyPutsTheSelectionOnTheClipboardAsShown) {
     EXPECT_EQ(data->html(), QStringLiteral("<table><tr><td><b>qz &lt;psf&gt;</b></td><td>17.43</td>"
                                            "</tr><tr><td>Kzt</td><td>1</td></tr></table>"))
         << command;
+  }
+}
+
+int PdfPageCount(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  int pages = 0;
+  for (std::size_t at = bytes.find("/Type /Page\n"); at != std::string::npos;
+       at = bytes.find("/Type /Page\n", at + 1)) {
+    ++pages;
+  }
+  return bytes.starts_with("%PDF") ? pages : -1;
+}
+
+// The report as a PDF from Save As, and from File Print on a system without a printer,
+// which asks first: the pages that the printer would print.
+TEST(MainFrm, SaveAsAndPrintWithoutAPrinterWriteThePdfOfTheReport) {
+  if (!QPrinterInfo::availablePrinters().isEmpty()) GTEST_SKIP() << "a printer is installed";
+  for (const char* command : {"mnuFileSaveAs", "mnuFilePrintReport"}) {
+    WindowFixture fixture;
+    wb::Workbook& report = fixture.state.ReportWorkbook();
+    report.SetCellText(1, 1, "Page one");
+    report.SetCellText(120, 1, "Page two");
+    const std::filesystem::path folder = testing::UniqueTempFolder("gustline-pdf-");
+    std::filesystem::create_directories(folder);
+    const std::filesystem::path path = folder / "REPORT.PDF";
+    fixture.prompt.answers = {PromptAnswer::Yes};
+    fixture.prompt.fileChoices = {FileChoice{path.string()}};
+    fixture.window.RunCommand(command);
+    EXPECT_GT(PdfPageCount(path), 1) << command;
+    EXPECT_EQ(PdfPageCount(path), report::ReportPageCount(report)) << command;
+    std::filesystem::remove_all(folder);
   }
 }
 

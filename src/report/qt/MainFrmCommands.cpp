@@ -23,6 +23,7 @@
 #include "core/FileExit.h"
 #include "core/FileNew.h"
 #include "core/FileOpen.h"
+#include "core/PrintToPdf.h"
 #include "core/ProcessState.h"
 #include "core/Prompt.h"
 #include "core/StatusSummary.h"
@@ -235,7 +236,15 @@ void MainFrm::PrintCommand() {
   try {
     report::PrintReport(app_->state.ReportWorkbook(), this);
   } catch (const wb::FacilityError& error) {
-    ReportFacilityError(app_->prompt, error);
+    if (error.Number() != wb::errc::kNoPrinter) {
+      ReportFacilityError(app_->prompt, error);
+      return;
+    }
+    try {
+      OfferReportPdf(*app_);
+    } catch (const wb::FacilityError& pdfError) {
+      ReportFacilityError(app_->prompt, pdfError);
+    }
   }
 }
 

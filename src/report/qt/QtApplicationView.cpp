@@ -9,6 +9,7 @@
 #include <QStatusBar>
 
 #include "report/qt/MainFrm.h"
+#include "report/qt/ReportPrinting.h"
 
 namespace gustline {
 namespace {
@@ -146,6 +147,10 @@ void QtApplicationView::SetStatusbarVisible(bool visible) {
 
 bool QtApplicationView::StatusbarVisible() const {
   return window_.StatusbarVisible();
+}
+
+void QtApplicationView::PrintReportToPdf(wb::Workbook& report, const std::string& path) {
+  report::WriteReportPdf(report, path);
 }
 
 void QtApplicationView::ShowRecentFiles(const RecentFiles& recentFiles) {

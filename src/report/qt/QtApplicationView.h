@@ -36,6 +36,7 @@ class QtApplicationView : public ApplicationView {
   void SetStatusbarVisible(bool visible) override;
   bool StatusbarVisible() const override;
   void ShowRecentFiles(const RecentFiles& recentFiles) override;
+  void PrintReportToPdf(wb::Workbook& report, const std::string& path) override;
 
  private:
   MainFrm& window_;
