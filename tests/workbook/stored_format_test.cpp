@@ -207,6 +207,7 @@ TEST(StoredFormat, DamagedStreamsNameTheirRecord) {
       {Book("", {{"Sheet1", ""}, {"S]", ""}}), "record 0x85 (sheet entry) at offset 84"},
       {OneSheet(Sized(0xA1, U16(1) + U16(100) + U16(1) + U16(40000) + U16(1) + U16(0))),
        "a count of pages beyond 32767"},
+      {OneSheet(Fixed(0x26, F64(9e307))), "a margin outside 0 to 100 inches"},
       {Begin(0x10) + End(), "record 0x09 (begin) at offset 0: a book opens with its globals"},
       {"", "the file is empty"},
   };

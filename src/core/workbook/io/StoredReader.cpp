@@ -54,6 +54,12 @@ double Finite(RecordReader& in, double value) {
   return value;
 }
 
+double Margin(RecordReader& in) {
+  const double inches = in.F64();
+  if (!(inches >= 0 && inches <= 100)) in.Fail("a margin outside 0 to 100 inches");
+  return inches;
+}
+
 // A packed number: the upper 30 bits as a whole number or as the high half of a double,
 // hundredths when bit 0 is set.
 double Unpacked(std::uint32_t word) {
@@ -169,7 +175,7 @@ class StoredBuilder {
         break;
       case 0x10: {
         const double change = Finite(in, in.F64());
-        if (change < 0) in.Fail("a negative iteration change");
+        if (change < 0 || change > 1) in.Fail("an iteration change outside 0 to 1");
         document_.maxChange = change;
         break;
       }
@@ -204,16 +210,16 @@ class StoredBuilder {
         break;
       }
       case 0x26:
-        Sheet(in).print.leftMargin = Finite(in, in.F64());
+        Sheet(in).print.leftMargin = Margin(in);
         break;
       case 0x27:
-        Sheet(in).print.rightMargin = Finite(in, in.F64());
+        Sheet(in).print.rightMargin = Margin(in);
         break;
       case 0x28:
-        Sheet(in).print.topMargin = Finite(in, in.F64());
+        Sheet(in).print.topMargin = Margin(in);
         break;
       case 0x29:
-        Sheet(in).print.bottomMargin = Finite(in, in.F64());
+        Sheet(in).print.bottomMargin = Margin(in);
         break;
       case 0x2A:
         Sheet(in).print.rowHeading = in.U16() != 0;
