@@ -18,6 +18,7 @@
 #include "core/workbook/value/FacilityError.h"
 #include "simplified/qt/WindAreasFrm.h"
 #include "ui/frmWindPropStatus.h"
+#include "ui/qt/MapFrm.h"
 #include "ui/rules/qt/AngleSlider.h"
 #include "ui/rules/qt/FormFields.h"
 #include "ui/rules/qt/PropertyDialog.h"
@@ -47,6 +48,7 @@ frmSimplified::frmSimplified(Application& app, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, &frmSimplified::reject);
   connect(ui_->Command3, &QPushButton::clicked, this, [this] { Command3_Click(); });
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
+  connect(ui_->Command7, &QPushButton::clicked, this, [this] { ShowMapFrm(this); });
   connect(ui_->Command5, &QPushButton::clicked, this, [this] {
     if (help_) help_();
   });

@@ -18,6 +18,7 @@
 #include "core/workbook/value/FacilityError.h"
 #include "ui/frmWindPropScreens.h"
 #include "ui/frmWindPropStatus.h"
+#include "ui/qt/MapFrm.h"
 #include "ui/rules/FieldNumber.h"
 #include "ui/rules/qt/FormFields.h"
 #include "ui/rules/qt/PropertyDialog.h"
@@ -66,10 +67,9 @@ frmWindProp::frmWindProp(Application& app, QWidget* parent)
   enclosure_ = rules::OptionGroup(*this, "Option7", 3);
   ri_ = rules::OptionGroup(*this, "Option8", 2);
   for (const std::string& item : TableItems()) ui_->List2->addItem(QString::fromStdString(item));
-  // The map viewer comes with its own procedure.
-  ui_->Command7->setEnabled(false);
   SetFigureDialogs({});
 
+  connect(ui_->Command7, &QPushButton::clicked, this, [this] { ShowMapFrm(this); });
   connect(system_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
   connect(structure_, &QButtonGroup::idClicked, this, [this] { SystemOrStructureChanged(); });
   connect(ui_->SSTab1, &QTabWidget::currentChanged, this, [this](int tab) { TabChanged(tab); });
