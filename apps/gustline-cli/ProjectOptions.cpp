@@ -72,11 +72,15 @@ bool ReplaceOutline(wb::Workbook& project, const std::string& path) {
 }  // namespace
 
 bool ApplySets(wb::Workbook& project, const ProjectOptions& options) {
+  StderrPrompt prompt;
+  return ApplySets(project, options, prompt);
+}
+
+bool ApplySets(wb::Workbook& project, const ProjectOptions& options, Prompt& prompt) {
   if (options.outlinePath && !ReplaceOutline(project, *options.outlinePath)) {
     std::cerr << "gustline-cli: cannot read the outline '" << *options.outlinePath << "'\n";
     return false;
   }
-  StderrPrompt prompt;
   for (const auto& [name, value] : options.sets) {
     if (!options.unchecked && !rules::CheckCellInput(prompt, name, value)) return false;
     report::WriteProjectInput(project, name, value);

@@ -6,6 +6,9 @@
 #include <utility>
 #include <vector>
 
+namespace gustline {
+class Prompt;
+}
 namespace gustline::wb {
 class Workbook;
 }
@@ -38,6 +41,8 @@ std::string ProgramFolder();
 // the cell, as its OK does: a refused value shows the dialog's message on standard error,
 // and the result is false with nothing more written.
 bool ApplySets(wb::Workbook& project, const ProjectOptions& options);
+// The same, the dialogs' messages shown by the prompt given.
+bool ApplySets(wb::Workbook& project, const ProjectOptions& options, Prompt& prompt);
 
 // The project workbook `WindData`, read from the file or from the default project that the
 // program carries, with the --set values applied; nullptr when one is refused. Facility

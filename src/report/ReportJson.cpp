@@ -38,22 +38,6 @@ const char* KindName(const wb::Value& value) {
   return "empty";
 }
 
-std::string JsonValue(const wb::Value& value) {
-  switch (value.GetKind()) {
-    case wb::Value::Kind::Number:
-      return JsonNumber(value.AsNumber());
-    case wb::Value::Kind::Text:
-      return JsonString(value.AsText());
-    case wb::Value::Kind::Boolean:
-      return value.AsBoolean() ? "true" : "false";
-    case wb::Value::Kind::Error:
-      return JsonString(wb::ErrorText(value.AsError()));
-    case wb::Value::Kind::Empty:
-      break;
-  }
-  return "null";
-}
-
 void AppendSheet(std::string& json, wb::Workbook& report, int sheet) {
   report.SetActiveSheet(sheet);
   const wb::Sheet& page = report.GetSheet(sheet);
@@ -79,6 +63,22 @@ void AppendSheet(std::string& json, wb::Workbook& report, int sheet) {
 }
 
 }  // namespace
+
+std::string JsonValue(const wb::Value& value) {
+  switch (value.GetKind()) {
+    case wb::Value::Kind::Number:
+      return JsonNumber(value.AsNumber());
+    case wb::Value::Kind::Text:
+      return JsonString(value.AsText());
+    case wb::Value::Kind::Boolean:
+      return value.AsBoolean() ? "true" : "false";
+    case wb::Value::Kind::Error:
+      return JsonString(wb::ErrorText(value.AsError()));
+    case wb::Value::Kind::Empty:
+      break;
+  }
+  return "null";
+}
 
 std::string JsonString(std::string_view text) {
   // Projects of old hold their texts in code page 1252; JSON is UTF-8 only.

@@ -89,6 +89,37 @@ TEST_F(CliRunsTest, InputsAndOutputsGiveTheirStatusAndReason) {
   }
 }
 
+// Each row of a batch is the report of its own inputs: the same inputs give the same results
+// whatever rows stand between, a refused row says why, and JSON lines hold the same numbers.
+TEST_F(CliRunsTest, BatchRowsAreIndependentReports) {
+  std::ofstream(At("cases.csv")) << "WindSpeed,Height,Exposure\n"
+                                    "120,60,2\r\n"
+                                    "90,\"300\",3\n"
+                                    "120,-5,2\n"
+                                    "120,60,2\n";
+  EXPECT_EQ(Run("batch --in " + At("cases.csv") + " --out - --result qh Height Nowhere"), 1);
+  const std::string csv = Output();
+  std::vector<std::string> lines;
+  for (std::size_t start = 0, end; (end = csv.find('\n', start)) != std::string::npos;
+       start = end + 1)
+    lines.push_back(csv.substr(start, end - start));
+  ASSERT_EQ(lines.size(), 5U) << csv;
+  EXPECT_EQ(lines[0], "WindSpeed,Height,Exposure,Template,qh,Height,Nowhere,Messages");
+  EXPECT_EQ(lines[1], lines[4]);
+  EXPECT_NE(lines[1], lines[2]);
+  EXPECT_NE(lines[1].find(",60,"), std::string::npos);
+  EXPECT_EQ(lines[3].rfind("120,-5,2,,,,,", 0), 0U) << lines[3];
+  EXPECT_NE(lines[3].find("Valid values are numbers from 1.000 to 2000.000"), std::string::npos);
+  EXPECT_NE(lines[1].find("no result Nowhere in the report or the project"), std::string::npos);
+
+  ASSERT_EQ(Run("batch --jsonl --in " + At("cases.csv") + " --out - --result qh"), 1);
+  // WindSpeed, Height, Exposure, Template, then qh.
+  std::string qh = lines[1];
+  for (int field = 0; field < 4; ++field) qh.erase(0, qh.find(',') + 1);
+  qh.erase(qh.find(','));
+  EXPECT_NE(Output().find("\"results\": {\"qh\": " + qh + "}"), std::string::npos) << Output();
+}
+
 TEST_F(CliRunsTest, ADeviceTargetStaysADevice) {
   ASSERT_EQ(Run("report --json /dev/null --txt /dev/null"), 0) << Errors();
   struct stat info {};

@@ -251,6 +251,31 @@ TEST(NativeFormat, AReadKeepsTheBooksOwnName) {
   }
 }
 
+// A column that one formula fills reads back as one formula, each row's value its own; the
+// book read keeps the name slots that the links of other books were bound to before.
+TEST(NativeFormat, AFilledColumnSharesOneFormulaAndLinksStayBound) {
+  Workbook source("Source");
+  for (int row = 1; row <= 4; ++row) {
+    source.SetCellNumber(row, 1, row);
+    source.SetCellFormula(row, 2, "A" + std::to_string(row) + "*2");
+  }
+  source.SetCellFormula(5, 2, "A4*3");
+  source.SetDefinedName("Top", "Sheet1!$B$4");
+  const std::string text = Written(source);
+
+  Workbook reader("Project");
+  reader.SetDefinedName("Other", "Sheet1!$A$1");
+  Workbook report("Report");
+  report.SetCellFormula(1, 1, "[Project]Sheet1!Top");
+  Read(text, reader);
+  const auto formulaAt = [&reader](int row) { return reader.GetSheet(1).Find(row, 2)->formula; };
+  for (int row = 2; row <= 4; ++row) EXPECT_EQ(formulaAt(row), formulaAt(1)) << row;
+  EXPECT_NE(formulaAt(5), formulaAt(4));
+  for (int row = 1; row <= 4; ++row) EXPECT_EQ(reader.CellNumber(row, 2), 2 * row);
+  EXPECT_EQ(reader.CellNumber(5, 2), 12);
+  EXPECT_EQ(report.CellValue(1, 1), Value::Number(8));
+}
+
 TEST(NativeFormat, CellLinesReadAtAGlance) {
   Workbook book("Figure66A");
   book.SetAutoRecalc(false);

@@ -1,6 +1,9 @@
 #include "core/workbook/io/WorkbookDocument.h"
 
+#include <memory>
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "core/workbook/formula/Formula.h"
 #include "core/workbook/model/Workbook.h"
@@ -9,6 +12,35 @@
 
 namespace gustline::wb {
 namespace {
+
+// The formulas that a sheet's cells share: a cell whose text is what the formula of the
+// cell above or to its left prints at this cell takes that formula, as CopyDown leaves a
+// column, instead of a parse of its own. Cells come in row-major order.
+class SharedFormulas {
+ public:
+  std::shared_ptr<const Formula> Of(const std::string& text, const FormulaHost& host) {
+    const auto col = static_cast<std::size_t>(host.cell.col);
+    if (above_.size() <= col) above_.resize(col + 1);
+    if (host.cell.row != row_) left_.reset();
+    row_ = host.cell.row;
+    std::shared_ptr<const Formula> formula;
+    for (const auto* candidate : {&above_[col], &left_}) {
+      if (*candidate && FormulaText(**candidate, host) == text) {
+        formula = *candidate;
+        break;
+      }
+    }
+    if (!formula) formula = ParseFormula(text, host);
+    above_[col] = formula;
+    left_ = formula;
+    return formula;
+  }
+
+ private:
+  std::vector<std::shared_ptr<const Formula>> above_;  // by column
+  std::shared_ptr<const Formula> left_;
+  int row_ = 0;
+};
 
 SheetRecord CaptureLayout(const Sheet& sheet) {
   SheetRecord record;
@@ -113,12 +145,13 @@ void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
     const int sheetIndex = static_cast<int>(i);
     Sheet& sheet = book.GetSheet(sheetIndex + 1);
     ApplyLayout(record, sheet);
+    SharedFormulas shared;
     for (const CellRecord& cellRecord : record.cells) {
       Cell& cell = sheet.At(cellRecord.address.row, cellRecord.address.col);
       cell.style = styleIndex[cellRecord.style];
       cell.value = cellRecord.value;
       if (cellRecord.formula)
-        cell.formula = ParseFormula(*cellRecord.formula, {&book, sheetIndex, cellRecord.address});
+        cell.formula = shared.Of(*cellRecord.formula, {&book, sheetIndex, cellRecord.address});
     }
   }
   book.SetActiveSheet(document.activeSheet);
@@ -126,18 +159,18 @@ void ApplyDocument(const WorkbookDocument& document, Workbook& book) {
 }
 
 void ApplyReadDocument(const WorkbookDocument& document, Workbook& book) {
-  {
-    // A book of the same name and sheets takes the content first: a formula that does not
-    // parse or a name the engine refuses shows there, and the real book stays untouched.
-    Workbook scratch(book.BookName());
-    try {
-      ApplyDocument(document, scratch);
-    } catch (const std::exception& error) {
-      throw FacilityError(errc::kFileCorrupt,
-                          "The workbook file is damaged: " + PrintableText(error.what()));
-    }
+  // A book of the same name takes the content first: a formula that does not parse or a
+  // name the engine refuses shows there, and the real book stays untouched.
+  Workbook scratch(book.BookName());
+  // With the book's name slots, which formulas of other books are bound to.
+  scratch.Names() = book.Names();
+  try {
+    ApplyDocument(document, scratch);
+  } catch (const std::exception& error) {
+    throw FacilityError(errc::kFileCorrupt,
+                        "The workbook file is damaged: " + PrintableText(error.what()));
   }
-  ApplyDocument(document, book);
+  book.CopyContentOf(scratch);
 }
 
 }  // namespace gustline::wb

@@ -122,4 +122,20 @@ void Workbook::ClearAll() {
   NoteChange(true);
 }
 
+void Workbook::CopyContentOf(const Workbook& other) {
+  if (&other == this) return;
+  title_ = other.title_;
+  sheets_.clear();
+  for (const auto& sheet : other.sheets_) sheets_.push_back(std::make_unique<Sheet>(*sheet));
+  nextSheetId_ = other.nextSheetId_;
+  activeSheet_ = other.activeSheet_;
+  styles_ = other.styles_;
+  names_ = other.names_;
+  autoRecalc_ = other.autoRecalc_;
+  iterationOn_ = other.iterationOn_;
+  maxIterations_ = other.maxIterations_;
+  maxChange_ = other.maxChange_;
+  NoteChange(true);
+}
+
 }  // namespace gustline::wb

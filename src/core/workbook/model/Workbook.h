@@ -165,6 +165,10 @@ class Workbook {
 
   // --- Whole book ---
   void ClearAll();  // one empty sheet, "Sheet1"; no names
+  // Replaces the title, sheets, names, styles and calculation settings by a copy of another
+  // book's; the book keeps its id and name. The formulas, which neither book changes, are
+  // shared; they stay bound to the sheet ids and name slots that come with them.
+  void CopyContentOf(const Workbook& other);
   // Replaces the whole book by the file, all but its name; returns the type read. On failure
   // the book is as it was.
   FileType ReadWorkbook(const std::string& path);
