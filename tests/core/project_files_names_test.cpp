@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "core/CopyBookToBuffer.h"
 #include "core/ProjectFilesExtensions.h"
 #include "core/Prompt.h"
+#include "core/workbook/model/Sheet.h"
 #include "core/workbook/model/Workbook.h"
 
 namespace gustline {
@@ -89,6 +91,25 @@ INSTANTIATE_TEST_SUITE_P(
         CopyCase{3, 1, {"p3r1", "", "p2r1", "p2r2", "p2r3", "", "p1r1", "p1r2"}, true},
         CopyCase{2, 2, {"p2r1", "p2r2", "p2r3"}, true}, CopyCase{0, 3, {}, false},
         CopyCase{2, 0, {}, false}));
+
+// The pages' hidden rows stay hidden where they land, and a column takes the widest of its
+// widths, so that the export shows what the pages show.
+TEST(CopyBookToBufferTest, KeepsHiddenRowsAndTheWidestColumns) {
+  wb::Workbook report("ServerSS");
+  wb::Workbook buffer("BufferSS");
+  FillPages(report);
+  report.SetActiveSheet(1);
+  report.SetColumnWidth(1, 1, 30);
+  report.SetRowHidden(2, true);
+  report.SetActiveSheet(2);
+  report.SetColumnWidth(1, 2, 12);
+  report.SetRowHidden(3, true);
+  ScriptedPrompt prompt;
+  ASSERT_TRUE(CopyBookToBuffer(prompt, report, -1, 0, buffer, 1));
+  const wb::Sheet& stacked = buffer.GetSheet(1);
+  EXPECT_EQ(stacked.HiddenRows(), (std::vector<int>{2, 6}));
+  EXPECT_EQ(stacked.ColumnWidths(), (std::map<int, double>{{1, 30}, {2, 12}}));
+}
 
 }  // namespace
 }  // namespace gustline

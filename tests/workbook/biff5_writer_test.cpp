@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -19,8 +20,9 @@ namespace {
 
 // Reads an Excel 5.0 file with Debian's python3-xlrd and prints one line per item:
 // "sheet<TAB>index<TAB>name", "cell<TAB>sheet<TAB>row<TAB>col<TAB>kind<TAB>value" (numbers
-// as hexadecimal floats, so that they compare exactly) and
-// "format<TAB>sheet<TAB>row<TAB>col<TAB>text".
+// as hexadecimal floats, so that they compare exactly),
+// "format<TAB>sheet<TAB>row<TAB>col<TAB>text", "font<TAB>sheet<TAB>row<TAB>col<TAB>weight
+// colour", "width<TAB>sheet<TAB>col<TAB>width" and "hidden<TAB>sheet<TAB>row<TAB>1".
 constexpr const char* kReaderScript = R"(
 import sys, xlrd
 book = xlrd.open_workbook(sys.argv[1], formatting_info=True, ragged_rows=True)
@@ -28,6 +30,11 @@ out = []
 for s in range(book.nsheets):
     sheet = book.sheet_by_index(s)
     out.append('sheet\t%d\t%s' % (s + 1, sheet.name))
+    for c, info in sheet.colinfo_map.items():
+        out.append('width\t%d\t%d\t%d' % (s + 1, c + 1, info.width))
+    for r, info in sheet.rowinfo_map.items():
+        if info.hidden:
+            out.append('hidden\t%d\t%d\t1' % (s + 1, r + 1))
     for r in range(sheet.nrows):
         for c in range(sheet.row_len(r)):
             cell = sheet.cell(r, c)
@@ -44,6 +51,10 @@ for s in range(book.nsheets):
             out.append('cell\t%d\t%d\t%d\t%s\t%s' % (s + 1, r + 1, c + 1, kind, value))
             fmt = book.format_map[book.xf_list[cell.xf_index].format_key].format_str
             out.append('format\t%d\t%d\t%d\t%s' % (s + 1, r + 1, c + 1, fmt))
+            font = book.font_list[book.xf_list[cell.xf_index].font_index]
+            out.append('font\t%d\t%d\t%d\t%s %s' % (s + 1, r + 1, c + 1,
+                       'bold' if font.bold else 'normal',
+                       'white' if font.colour_index == 9 else 'auto'))
 sys.stdout.buffer.write(('\n'.join(out) + '\n').encode('utf-8'))
 )";
 
@@ -96,11 +107,17 @@ Listing ParseListing(const std::string& output) {
   return listing;
 }
 
-// What the reader must find in the book: every non-empty value and its number format.
+// What the reader must find in the book: every non-empty value with its number format and
+// font, the column widths (in 1/256 of a character) and the hidden rows.
 Listing Expected(Workbook& book) {
   Listing listing;
   for (int s = 1; s <= book.SheetCount(); ++s) {
     listing["sheet\t" + std::to_string(s)] = book.SheetName(s);
+    for (const auto& [col, width] : book.GetSheet(s).ColumnWidths())
+      listing["width\t" + std::to_string(s) + '\t' + std::to_string(col)] =
+          std::to_string(std::lround(width * 256));
+    for (const int row : book.GetSheet(s).HiddenRows())
+      listing["hidden\t" + std::to_string(s) + '\t' + std::to_string(row)] = "1";
     book.SetActiveSheet(s);
     book.GetSheet(s).ForEachCell([&](int row, int col, const Cell&) {
       const Value value = book.CellValue(row, col);
@@ -130,7 +147,10 @@ Listing Expected(Workbook& book) {
           break;
       }
       listing["cell\t" + at + '\t' + kind] = text;
-      listing["format\t" + at] = book.GetCellStyle(row, col).numberFormat;
+      const CellStyle& style = book.GetCellStyle(row, col);
+      listing["format\t" + at] = style.numberFormat;
+      listing["font\t" + at] = std::string(style.font.bold ? "bold" : "normal") +
+                               (style.font.color == 0xFFFFFF ? " white" : " auto");
     });
   }
   return listing;
@@ -143,7 +163,8 @@ void SetFormat(Workbook& book, int row, int col, const std::string& format) {
 }
 
 // A report page with every kind of value, formulas that give their results, number formats
-// built in and custom, and the degree sign of the project's texts.
+// built in and custom, the degree sign of the project's texts, a bold heading, a white
+// value for formulas only, column widths and a hidden row.
 void BuildReportPages(Workbook& book) {
   book.SetSheetName(1, "Page 1");
   book.SetCellText(1, 1, "Design Wind Pressure, p, Equation 6-17  (ASCE 7-05)");
@@ -162,6 +183,15 @@ void BuildReportPages(Workbook& book) {
   book.SetCellText(9, 4, std::string(300, 'x'));
   book.SetCellFormula(10, 1, "\"\"");
   book.SetColumnWidth(1, 1, 40);
+  book.SetColumnWidth(3, 3, 12.5);
+  CellStyle heading = book.GetCellStyle(1, 1);
+  heading.font.bold = true;
+  book.SetCellStyle(1, 1, heading);
+  book.SetCellNumber(2, 12, 10);
+  CellStyle formulasOnly;
+  formulasOnly.font.color = 0xFFFFFF;
+  book.SetCellStyle(2, 12, formulasOnly);
+  book.SetRowHidden(5, true);
   book.AddSheet("Page 2");
   book.SetActiveSheet(2);
   book.SetCellNumber(16384, 256, 42);

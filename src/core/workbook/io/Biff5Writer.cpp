@@ -21,6 +21,7 @@ namespace record {
 constexpr std::uint32_t kEof = 0x000A;
 constexpr std::uint32_t kFormat = 0x041E;
 constexpr std::uint32_t kFont = 0x0031;
+constexpr std::uint32_t kRow = 0x0208;
 constexpr std::uint32_t kWindow1 = 0x003D;
 constexpr std::uint32_t kCodePage = 0x0042;
 constexpr std::uint32_t kColInfo = 0x007D;
@@ -41,9 +42,20 @@ constexpr std::uint32_t kSheetKind = 0x0010;
 constexpr std::uint32_t kCodePage1252 = 1252;
 constexpr std::size_t kMaxLabel = 255;
 constexpr std::size_t kMaxSheetName = 31;
+constexpr std::size_t kMaxFontName = 31;
 // 15 style formats come first, as Excel expects; cells use 15 and the ones after it.
 constexpr std::uint32_t kStyleXfCount = 15;
 constexpr std::uint32_t kFirstCustomFormat = 164;
+// Four fonts stand for the default font; index 4 does not exist in the format.
+constexpr std::uint32_t kDefaultFontCount = 4;
+constexpr std::uint32_t kFirstCustomFont = 5;
+constexpr std::uint32_t kBoldWeight = 700;
+constexpr std::uint32_t kNormalWeight = 400;
+constexpr std::uint32_t kBold = 0x0001;  // beside the weight, as readers look for it
+constexpr std::uint32_t kItalic = 0x0002;
+constexpr std::uint32_t kAutomaticColour = 0x7FFF;
+constexpr std::uint32_t kDefaultRowHeight = 255;  // twips
+constexpr std::uint32_t kHiddenRow = 0x0160;      // zero height, its own height, always set
 
 void AppendRecord(std::string& out, std::uint32_t type, const std::string& data) {
   AppendU16(out, type);
@@ -60,71 +72,110 @@ std::string Bof(std::uint32_t kind) {
   return data;
 }
 
-// The number formats of the book's cells, each with its cell format (XF) index.
+// The fonts of the book's cells other than the default one, each with its index.
+class FontTable {
+ public:
+  std::uint32_t IndexOf(const Font& font) {
+    if (font == Font{}) return 0;
+    auto found = std::find(fonts_.begin(), fonts_.end(), font);
+    if (found == fonts_.end()) found = fonts_.insert(fonts_.end(), font);
+    return kFirstCustomFont + static_cast<std::uint32_t>(found - fonts_.begin());
+  }
+  const std::vector<Font>& Custom() const { return fonts_; }
+
+ private:
+  std::vector<Font> fonts_;
+};
+
+// The number formats and fonts of the book's cells, each pair with its cell format (XF).
 class FormatTable {
  public:
-  std::uint32_t XfOf(const std::string& numberFormat) {
-    const auto found = xfs_.find(numberFormat);
+  struct CellFormat {
+    std::uint32_t format = 0;
+    std::uint32_t font = 0;
+  };
+
+  std::uint32_t XfOf(const CellStyle& style) {
+    const std::uint32_t font = fonts_.IndexOf(style.font);
+    const auto key = std::make_pair(style.numberFormat, font);
+    const auto found = xfs_.find(key);
     if (found != xfs_.end()) return found->second;
-    const auto builtIn =
-        std::find_if(kBuiltInFormats.begin(), kBuiltInFormats.end(),
-                     [&](const auto& entry) { return entry.first == numberFormat; });
-    std::uint32_t index = 0;
-    if (builtIn != kBuiltInFormats.end()) {
-      index = builtIn->second;
-    } else {
-      index = kFirstCustomFormat + static_cast<std::uint32_t>(custom_.size());
-      custom_.emplace_back(index, numberFormat);
-    }
     const auto xf = kStyleXfCount + static_cast<std::uint32_t>(formatOfXf_.size());
-    formatOfXf_.push_back(index);
-    xfs_.emplace(numberFormat, xf);
+    formatOfXf_.push_back({FormatIndex(style.numberFormat), font});
+    xfs_.emplace(key, xf);
     return xf;
   }
 
   const std::vector<std::pair<std::uint32_t, std::string>>& Custom() const { return custom_; }
-  const std::vector<std::uint32_t>& FormatOfXf() const { return formatOfXf_; }
+  const std::vector<CellFormat>& FormatOfXf() const { return formatOfXf_; }
+  const FontTable& Fonts() const { return fonts_; }
 
  private:
-  std::map<std::string, std::uint32_t> xfs_;
+  std::uint32_t FormatIndex(const std::string& numberFormat) {
+    const auto builtIn =
+        std::find_if(kBuiltInFormats.begin(), kBuiltInFormats.end(),
+                     [&](const auto& entry) { return entry.first == numberFormat; });
+    if (builtIn != kBuiltInFormats.end()) return builtIn->second;
+    const auto custom = std::find_if(custom_.begin(), custom_.end(), [&](const auto& entry) {
+      return entry.second == numberFormat;
+    });
+    if (custom != custom_.end()) return custom->first;
+    const std::uint32_t index = kFirstCustomFormat + static_cast<std::uint32_t>(custom_.size());
+    custom_.emplace_back(index, numberFormat);
+    return index;
+  }
+
+  FontTable fonts_;
+  std::map<std::pair<std::string, std::uint32_t>, std::uint32_t> xfs_;
   std::vector<std::pair<std::uint32_t, std::string>> custom_;
-  std::vector<std::uint32_t> formatOfXf_;
+  std::vector<CellFormat> formatOfXf_;
 };
 
-std::string Xf(std::uint32_t format, bool style) {
+std::string Xf(FormatTable::CellFormat cell, bool style) {
   std::string data;
-  AppendU16(data, 0);  // font
-  AppendU16(data, format);
+  AppendU16(data, cell.font);
+  AppendU16(data, cell.format);
   AppendU16(data, style ? 0xFFF5 : 0x0001);  // locked; a style has no parent
   AppendU8(data, 0x20);                      // bottom aligned
-  // Attributes a style leaves to its cells; in a cell format, those it sets itself.
-  AppendU8(data, style ? 0xF4 : (format == 0 ? 0x00 : 0x04));
+  // Attributes a style leaves to its cells; in a cell format, those it sets itself: the
+  // number format and the font.
+  AppendU8(data, style ? 0xF4 : (cell.format == 0 ? 0x00 : 0x04) | (cell.font == 0 ? 0x00 : 0x08));
   AppendU32(data, 0x000020C0);  // the window's colours, no pattern, no bottom line
   AppendU32(data, 0);
   return data;
 }
 
-std::string FontRecord() {
-  static constexpr std::string_view kName = "Arial";
-  std::string data;
-  AppendU16(data, 200);  // 10 points
-  AppendU16(data, 0);
-  AppendU16(data, 0x7FFF);  // the window's text colour
-  AppendU16(data, 400);     // normal weight
-  AppendU16(data, 0);
-  AppendU8(data, 0);
-  AppendU8(data, 0);
-  AppendU8(data, 0);
-  AppendU8(data, 0);
-  AppendU8(data, static_cast<std::uint32_t>(kName.size()));
-  data += kName;
-  return data;
+// The colours of the format's palette by their index; any other is the window's text colour.
+std::uint32_t ColourIndex(std::uint32_t rgb) {
+  static constexpr std::uint32_t kFirstColour = 9;
+  static constexpr std::array<std::uint32_t, 7> kPalette = {0xFFFFFF, 0xFF0000, 0x00FF00, 0x0000FF,
+                                                            0xFFFF00, 0xFF00FF, 0x00FFFF};
+  const auto found = std::find(kPalette.begin(), kPalette.end(), rgb);
+  if (found == kPalette.end()) return kAutomaticColour;
+  return kFirstColour + static_cast<std::uint32_t>(found - kPalette.begin());
 }
 
 std::string ShortText(std::string_view text, std::size_t limit) {
   std::string bytes = ToCodePage1252(text);
   if (bytes.size() > limit) bytes.resize(limit);
   return bytes;
+}
+
+std::string FontRecord(const Font& font) {
+  const std::string name = ShortText(font.name, kMaxFontName);
+  std::string data;
+  AppendU16(data, static_cast<std::uint32_t>(std::lround(font.size * 20)));
+  AppendU16(data, (font.bold ? kBold : 0) | (font.italic ? kItalic : 0));
+  AppendU16(data, ColourIndex(font.color));
+  AppendU16(data, font.bold ? kBoldWeight : kNormalWeight);
+  AppendU16(data, 0);
+  AppendU8(data, font.underline ? 1 : 0);
+  AppendU8(data, 0);
+  AppendU8(data, 0);
+  AppendU8(data, 0);
+  AppendU8(data, static_cast<std::uint32_t>(name.size()));
+  data += name;
+  return data;
 }
 
 std::string CellHead(int row, int col, std::uint32_t xf) {
@@ -172,8 +223,7 @@ std::string SheetStream(const Workbook& book, const Sheet& sheet, bool first,
   int firstRow = 0, lastRow = 0, firstCol = 0, lastCol = 0;
   sheet.ForEachCell([&](int row, int col, const Cell& cell) {
     const std::size_t before = cells.size();
-    AppendCell(cells, row, col, cell.value,
-               formats.XfOf(book.Styles().Get(cell.style).numberFormat));
+    AppendCell(cells, row, col, cell.value, formats.XfOf(book.Styles().Get(cell.style)));
     if (cells.size() == before) return;
     if (firstRow == 0 || row < firstRow) firstRow = row;
     if (firstCol == 0 || col < firstCol) firstCol = col;
@@ -200,6 +250,18 @@ std::string SheetStream(const Workbook& book, const Sheet& sheet, bool first,
   AppendU16(dimensions, static_cast<std::uint32_t>(lastCol));
   AppendU16(dimensions, 0);
   AppendRecord(out, record::kDimensions, dimensions);
+  for (const int row : sheet.HiddenRows()) {
+    std::string data;
+    AppendU16(data, static_cast<std::uint32_t>(row - 1));
+    AppendU16(data, 0);
+    AppendU16(data, 0);
+    AppendU16(data, kDefaultRowHeight);
+    AppendU16(data, 0);
+    AppendU16(data, 0);
+    AppendU16(data, kHiddenRow);
+    AppendU16(data, kStyleXfCount);
+    AppendRecord(out, record::kRow, data);
+  }
   out += cells;
   std::string window;
   // Grid lines, headings, zeros, outline symbols; the first sheet selected and shown.
@@ -217,7 +279,7 @@ std::string SheetStream(const Workbook& book, const Sheet& sheet, bool first,
 std::string Biff5Stream(Workbook& book) {
   book.EnsureCalculated();
   FormatTable formats;
-  formats.XfOf("General");
+  formats.XfOf(CellStyle{});
   std::vector<std::string> sheets;
   for (int s = 1; s <= book.SheetCount(); ++s)
     sheets.push_back(SheetStream(book, book.GetSheet(s), s == 1, formats));
@@ -231,8 +293,10 @@ std::string Biff5Stream(Workbook& book) {
   for (std::uint32_t field : {0u, 0u, 0x3000u, 0x2000u, 0x0038u, 0u, 0u, 1u, 0x0258u})
     AppendU16(data, field);
   AppendRecord(globals, record::kWindow1, data);
-  // Font index 4 does not exist in the format: four fonts cover 0 to 3.
-  for (int i = 0; i < 4; ++i) AppendRecord(globals, record::kFont, FontRecord());
+  for (std::uint32_t i = 0; i < kDefaultFontCount; ++i)
+    AppendRecord(globals, record::kFont, FontRecord(Font{}));
+  for (const Font& font : formats.Fonts().Custom())
+    AppendRecord(globals, record::kFont, FontRecord(font));
   for (const auto& [index, text] : formats.Custom()) {
     data.clear();
     AppendU16(data, index);
@@ -241,9 +305,10 @@ std::string Biff5Stream(Workbook& book) {
     data += bytes;
     AppendRecord(globals, record::kFormat, data);
   }
-  for (std::uint32_t i = 0; i < kStyleXfCount; ++i) AppendRecord(globals, record::kXf, Xf(0, true));
-  for (std::uint32_t format : formats.FormatOfXf())
-    AppendRecord(globals, record::kXf, Xf(format, false));
+  for (std::uint32_t i = 0; i < kStyleXfCount; ++i)
+    AppendRecord(globals, record::kXf, Xf({}, true));
+  for (const FormatTable::CellFormat& cell : formats.FormatOfXf())
+    AppendRecord(globals, record::kXf, Xf(cell, false));
   data.clear();
   AppendU16(data, 0x8000);  // built-in style "Normal" on format 0
   AppendU8(data, 0);
