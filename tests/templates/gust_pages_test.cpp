@@ -56,6 +56,25 @@ TEST(GustPagesTest, FlexibleStructureByRationalAnalysis) {
   EXPECT_EQ(page.Text(1, 32, 8), "(Eq. 6-8)");
 }
 
+// The symbols of Table 6-2 and of the equations as the standard writes them, not spelt out.
+TEST(GustPagesTest, TermsAreWrittenWithTheirSymbols) {
+  auto page = LinkedReport::Assembled("GustFlexible");
+  const struct {
+    int row;
+    int col;
+    const char* text;
+  } cells[] = {{8, 4, "ε̄"},
+               {8, 5, "ℓ"},
+               {8, 7, "b̄"},
+               {8, 8, "ᾱ"},
+               {8, 9, "b̂"},
+               {8, 10, "α̂"},
+               {13, 4, "    ℓ · (z/33) ^ε̄"},
+               {18, 4, "    b̄ · [ z / 33 ]^ᾱ · V · (88/60)"},
+               {29, 4, "   Sqr [ ( 1 / β ) · Rn · Rh · Rb ( 0.53 + 0.47 · Rl ) ]"}};
+  for (const auto& cell : cells) EXPECT_EQ(page.Text(1, cell.row, cell.col), cell.text);
+}
+
 TEST(GustPagesTest, EquivalentHeightAndExposureConstants) {
   auto page = LinkedReport::Assembled("GustRigid");
   // Exposure C with h = 20: 0.6·h is below Zmin, so z is 15.
