@@ -19,6 +19,7 @@
 #include "core/ProcessState.h"
 #include "core/RecentFiles.h"
 #include "geometry/qt/Geometry.h"
+#include "report/qt/MaintenanceKeys.h"
 #include "report/qt/PrintPreview.h"
 #include "report/qt/ReportView.h"
 #include "simplified/qt/frmSimplified.h"
@@ -69,6 +70,7 @@ MainFrm::MainFrm(QWidget* parent) : QMainWindow(parent) {
     // clang 14 cannot capture a structured binding itself, only a copy of it.
     connect(turn, &QShortcut::activated, this, [this, step = step] { TurnPage(step); });
   }
+  AddMaintenanceKeys(*this, [this] { return app_; });
   ApplyZoom(5);
 }
 
