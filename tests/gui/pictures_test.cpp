@@ -19,9 +19,11 @@
 #include "core/Prompt.h"
 #include "core/Settings.h"
 #include "core/StartUp.h"
+#include "core/workbook/model/Workbook.h"
 #include "report/ReportGenerator.h"
 #include "report/qt/MainFrm.h"
 #include "report/qt/QtApplicationView.h"
+#include "report/qt/ReportView.h"
 #include "simplified/qt/frmSimplified.h"
 
 namespace gustline {
@@ -111,6 +113,29 @@ TEST(Pictures, SimplifiedProcedureFromTheDialogToTheReport) {
   EXPECT_EQ(started.report.TemplateName(), "SimpCompAndClad");
   QTest::qWait(50);
   EXPECT_TRUE(SavePicture(window, QStringLiteral("simplified_report.png")));
+}
+
+QImage Drawn(QWidget& widget) {
+  return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+// After a rebuild, as after OK in any dialog, the report view draws its page as a view
+// made afresh on the same book draws it: with the page's own widths and hidden rows.
+TEST(Pictures, ARebuiltReportIsDrawnWithItsPagesOwnLayout) {
+  StartedWindow started(820);
+  auto* shown = started.window.findChild<report::ReportView*>(QStringLiteral("ServerSS"));
+  ASSERT_NE(shown, nullptr);
+  for (const int page : {3, 1}) {
+    started.state.ReportWorkbook().SetActiveSheet(page);
+    started.report.CreateReport(started.app);
+    QTest::qWait(20);
+    report::ReportView fresh(started.state.ReportWorkbook());
+    fresh.resize(shown->size());
+    fresh.SetZoom(shown->Zoom());
+    fresh.Refresh();
+    EXPECT_EQ(Drawn(*shown), Drawn(fresh)) << page;
+  }
+  EXPECT_TRUE(SavePicture(*shown, QStringLiteral("report_after_rebuild.png")));
 }
 
 }  // namespace

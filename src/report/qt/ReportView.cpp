@@ -85,6 +85,8 @@ void ReportView::LayOut() {
     width += sheet.ColumnWidth(cols) * kPointsPerWidthUnit;
   }
   grid_ = MakeGridLayout(sheet, report_.Styles(), rows, cols);
+  laidOutSheet_ = sheet.Id();
+  laidOutChange_ = report_.ChangeCount();
   const QSize content(static_cast<int>(std::ceil(grid_.colEdges.back() * scale)),
                       static_cast<int>(std::ceil(grid_.rowEdges.back() * scale)));
   const QSize page = viewport()->size();
@@ -96,6 +98,13 @@ void ReportView::LayOut() {
   verticalScrollBar()->setSingleStep(static_cast<int>(kDefaultRowHeight * scale));
 }
 
+void ReportView::EnsureLaidOut() {
+  if (report_.GetSheet(report_.ActiveSheet()).Id() != laidOutSheet_ ||
+      report_.ChangeCount() != laidOutChange_) {
+    LayOut();
+  }
+}
+
 std::optional<wb::CellAddress> ReportView::CellAt(QPoint point) const {
   const double scale = PixelScale();
   const int col = ItemAt(grid_.colEdges, (point.x() + horizontalScrollBar()->value()) / scale);
@@ -105,6 +114,7 @@ std::optional<wb::CellAddress> ReportView::CellAt(QPoint point) const {
 }
 
 void ReportView::paintEvent(QPaintEvent*) {
+  EnsureLaidOut();
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), palette().color(QPalette::Dark));
   if (grid_.Rows() < 1 || grid_.Cols() < 1) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <cstdint>
 #include <optional>
 
 #include "core/workbook/address/CellAddress.h"
@@ -17,7 +18,8 @@ namespace gustline::report {
 // the zoom menu. Its cells are painted by the sheet renderer, as on paper.
 //
 // Use from the main window:
-//   - Refresh() after each report build, and after anything else that changed the book;
+//   - Refresh() after each report build, and after anything else that changed the book; a
+//     sheet made active or a book changed since is laid out anew before it is drawn;
 //   - SetZoom(percent) from ApplyZoom, and SetZoom(100) when the print preview is left;
 //   - TurnPage(1) and TurnPage(-1) for PageDown and PageUp (the view does not take these
 //     keys itself, the window does);
@@ -56,10 +58,14 @@ class ReportView : public QAbstractScrollArea {
   // Pixels per point at the zoom.
   double PixelScale() const;
   void LayOut();
+  // LayOut when the active sheet or the book has changed since the last one.
+  void EnsureLaidOut();
   void SelectTo(wb::CellAddress cell, bool extend);
 
   wb::Workbook& report_;
   GridLayout grid_;
+  std::uint32_t laidOutSheet_ = 0;
+  std::uint64_t laidOutChange_ = 0;
   int zoom_ = 100;
   bool dragging_ = false;
   wb::CellAddress anchor_;
