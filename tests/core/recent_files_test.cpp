@@ -12,6 +12,7 @@ namespace {
 
 std::vector<std::string> Captions(const RecentFiles& files) {
   std::vector<std::string> captions;
+  captions.reserve(RecentFiles::kCount);
   for (int i = 0; i < RecentFiles::kCount; ++i) captions.push_back(files.Entry(i).caption);
   return captions;
 }
