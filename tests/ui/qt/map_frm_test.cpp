@@ -48,6 +48,7 @@ TEST(MapFrmTest, ViewMapShowsTheMapAndTheProjectStaysAsItWas) {
 }
 
 TEST(MapFrmTest, ZoomKeepsTheFrameFilledAndIsKeptBetweenShowings) {
+  testing::EnsureTestApplication("map_frm_test");
   QWidget owner;
   MapFrm& map = ShowMapFrm(&owner);
   map.resize(700, 500);
