@@ -62,7 +62,7 @@ inline std::string Text(int row, int col, const std::string& text) {
   return Sized(0x04, Head(row, col) + U16(static_cast<std::uint32_t>(text.size())) + text);
 }
 inline std::string FormulaCell(int row, int col, const std::string& tokens,
-                           const std::string& cached = F64(0)) {
+                               const std::string& cached = F64(0)) {
   return Sized(0x06, Head(row, col) + cached + U16(0) + Zeros(4) +
                          U16(static_cast<std::uint32_t>(tokens.size())) + tokens);
 }
@@ -89,7 +89,7 @@ inline std::string LinkedName(const std::string& name) {
   return Sized(0x23, Zeros(6) + Short(name) + F64(0));
 }
 inline std::string NameDef(const std::string& name, const std::string& tokens, int sheet = 0,
-                        std::uint32_t options = 0) {
+                           std::uint32_t options = 0) {
   return Sized(0x18, U16(options) + Byte(0) + Byte(static_cast<std::uint32_t>(name.size())) +
                          U16(static_cast<std::uint32_t>(tokens.size())) + U16(0) + U16(sheet) +
                          Zeros(4) + name + tokens);
