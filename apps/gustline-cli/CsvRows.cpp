@@ -5,7 +5,9 @@
 namespace gustline::cli {
 
 std::optional<std::vector<std::vector<std::string>>> ReadCsvRows(std::istream& in) {
-  const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+  // A file saved as UTF-8 may begin with a byte-order mark, which is no part of a name.
+  if (text.rfind("\xEF\xBB\xBF", 0) == 0) text.erase(0, 3);
   std::vector<std::vector<std::string>> rows;
   std::vector<std::string> row;
   std::string field;

@@ -9,7 +9,8 @@
 namespace gustline::cli {
 
 // The rows of a comma-separated file: fields in double quotes may hold commas, line breaks
-// and doubled quotes; a line ending in CR LF ends as one in LF; blank lines are skipped.
+// and doubled quotes; a line ending in CR LF ends as one in LF; blank lines are skipped; a
+// leading UTF-8 byte-order mark is dropped.
 // nullopt when a quoted field is never closed.
 std::optional<std::vector<std::vector<std::string>>> ReadCsvRows(std::istream& in);
 

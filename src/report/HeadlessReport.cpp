@@ -17,10 +17,10 @@ void HeadlessReport::ReadProject(const std::optional<std::string>& path) {
   RecreateLateNames(Project());
 }
 
-const std::string& HeadlessReport::CreateReport() {
+std::string HeadlessReport::CreateReport() {
   Project().Recalc();
   generator_.CreateReport(app_);
-  return generator_.TemplateName();
+  return generator_.LastBuildMadeReport() ? generator_.TemplateName() : std::string();
 }
 
 void WriteProjectInput(wb::Workbook& project, std::string_view name, std::string_view value) {

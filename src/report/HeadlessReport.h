@@ -28,7 +28,7 @@ class HeadlessReport {
   void ReadProject(const std::optional<std::string>& path);
   // Builds the report as the program does; the template's name, empty when no report was
   // built (the reason is then in the prompt's messages).
-  const std::string& CreateReport();
+  std::string CreateReport();
 
   wb::Workbook& Project() { return state_.ProjectWorkbook(); }
   wb::Workbook& Report() { return state_.ReportWorkbook(); }

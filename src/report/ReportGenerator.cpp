@@ -71,6 +71,7 @@ std::vector<std::string> ReportGenerator::BookNamesOn(TemplateContainer containe
 void ReportGenerator::BuildReport(Application& app) {
   wb::Workbook& project = app.state.ProjectWorkbook();
   wb::Workbook& report = app.state.ReportWorkbook();
+  madeReport_ = false;
   const SelectionInputs inputs = ReadSelectionInputs(project);
   app.state.roofTypeCache = static_cast<std::int16_t>(inputs.roofType);
   app.state.note5Cache = static_cast<std::int16_t>(inputs.note5 ? -1 : 0);
@@ -96,8 +97,10 @@ void ReportGenerator::BuildReport(Application& app) {
                                           return std::string(kCreatingReport);
                                         }};
       const BuildContext context{report, project, app.prompt, app.state.applicationPath, areas};
-      if (RunBuilder(FindTemplate(chosen.id).builder, templateBook, context))
+      if (RunBuilder(FindTemplate(chosen.id).builder, templateBook, context)) {
         templateName_ = chosen.id.name;
+        madeReport_ = true;
+      }
     }
 
     TurnOnIteration(app);

@@ -32,6 +32,8 @@ class ReportGenerator : public ReportHook {
 
   // The template of the report on show; empty while no report has been built.
   const std::string& TemplateName() const { return templateName_; }
+  // Whether the last build made a report; the former one stays on show when it did not.
+  bool LastBuildMadeReport() const { return madeReport_; }
 
  private:
   const wb::Workbook& Template(const std::string& applicationPath, const TemplateId& id);
@@ -39,6 +41,7 @@ class ReportGenerator : public ReportHook {
   std::map<std::pair<TemplateContainer, std::string>, std::unique_ptr<wb::Workbook>> templates_;
   geometry::CutRandom random_;
   std::string templateName_;
+  bool madeReport_ = false;
 };
 
 }  // namespace gustline::report

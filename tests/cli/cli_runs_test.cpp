@@ -92,7 +92,7 @@ TEST_F(CliRunsTest, InputsAndOutputsGiveTheirStatusAndReason) {
 // Each row of a batch is the report of its own inputs: the same inputs give the same results
 // whatever rows stand between, a refused row says why, and JSON lines hold the same numbers.
 TEST_F(CliRunsTest, BatchRowsAreIndependentReports) {
-  std::ofstream(At("cases.csv")) << "WindSpeed,Height,Exposure\n"
+  std::ofstream(At("cases.csv")) << "\xEF\xBB\xBFWindSpeed,Height,Exposure\n"
                                     "120,60,2\r\n"
                                     "90,\"300\",3\n"
                                     "120,-5,2\n"

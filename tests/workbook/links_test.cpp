@@ -68,6 +68,15 @@ TEST(LinksTest, ChangeMarksOnlyTheBooksLinkedToIt) {
   EXPECT_EQ(byCell.CellValue(1, 1), N(41));
   EXPECT_EQ(byName.CellValue(1, 1), N(80));
   EXPECT_FALSE(RecalcState::Of(byCell).LinkChanged());
+
+  // Through a name of a book that links on, however far.
+  Workbook middle("Middle");
+  middle.SetDefinedName("Top", "[WindData]Sheet1!$B$24");
+  Workbook far("Far");
+  far.SetCellFormula(1, 1, "[Middle]Sheet1!Top+1");
+  EXPECT_EQ(far.CellValue(1, 1), N(41));
+  project->SetCellNumber(24, 2, 50);
+  EXPECT_EQ(far.CellValue(1, 1), N(51));
 }
 
 TEST(LinksTest, UnboundLinkKeepsItsCachedValueUntilReentered) {

@@ -96,6 +96,9 @@ TEST(StoredFormat, FormulaTokensReadAsOurText) {
       {Ref3d(-2, 0, 4, 2), "[Book1]Sheet9!C5"},
       {LinkedNameToken(-3, 1), "[WindData]Sheet1!Height"},
       {NameToken(1), "Speed"},
+      // Lost 3-D references keep the length of the reference; the token after them reads.
+      {Byte(0x3C) + Zeros(17) + Int(1) + Byte(0x03), "#REF!+1"},
+      {Byte(0x3D) + Zeros(20) + Int(1) + Byte(0x03), "#REF!+1"},
   };
   const std::string links = Link("[Self]Sheet1") + Link("[Book1]Sheet9") +
                             Link("[WindData]Sheet1") + LinkedName("Height");

@@ -110,6 +110,8 @@ class StoredBuilder {
   Record ReadStream(RecordStream& stream, const Record& begin) {
     Record record = begin;
     int nested = 0;
+    // A formula's text record follows it in the same stream, never in the next one.
+    pendingText_.reset();
     for (;;) {
       if (stream.AtEnd()) RecordFail(record, "the file ends before the end of its stream");
       record = stream.Next();

@@ -161,10 +161,10 @@ class TokenDecoder {
       case 0x3B:
         return Reference3d(base == 0x3B);
       case 0x3C:
-        in_.Skip(16);
+        in_.Skip(17);
         return Push("#REF!", kOperand, 1);
       case 0x3D:
-        in_.Skip(19);
+        in_.Skip(20);
         return Push("#REF!", kOperand, 1);
       default:
         in_.Fail("a formula token " + Hex(base) + " that our formulas do not have");

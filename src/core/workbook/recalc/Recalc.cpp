@@ -333,11 +333,23 @@ void RecalcState::BuildOrder(Workbook& book, RecalcState& state) {
 }
 
 bool RecalcState::LinkChanged() const {
+  std::vector<std::uint64_t> visited;
+  return LinkChanged(visited);
+}
+
+bool RecalcState::LinkChanged(std::vector<std::uint64_t>& visited) const {
   const BookRegistry& registry = BookRegistry::Instance();
-  return std::any_of(links.begin(), links.end(), [&registry](const Link& link) {
-    const Workbook* linked = registry.FindById(link.bookId);
-    return (linked != nullptr ? linked->ChangeCount() : 0) != link.seenChangeCount;
-  });
+  for (const Link& link : links) {
+    Workbook* linked = registry.FindById(link.bookId);
+    if ((linked != nullptr ? linked->ChangeCount() : 0) != link.seenChangeCount) return true;
+    if (linked == nullptr ||
+        std::find(visited.begin(), visited.end(), link.bookId) != visited.end())
+      continue;
+    visited.push_back(link.bookId);
+    // A name of the linked book that links on reads a third book without changing the second.
+    if (Of(*linked).LinkChanged(visited)) return true;
+  }
+  return false;
 }
 
 void RecalcState::Run(Workbook& book) {

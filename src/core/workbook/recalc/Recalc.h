@@ -38,7 +38,8 @@ class RecalcState {
     std::uint64_t seenChangeCount;
   };
 
-  // True when a linked book has changed or closed since the last calculation.
+  // True when a linked book has changed or closed since the last calculation, or a book
+  // that one reads through its links, however far.
   bool LinkChanged() const;
 
   bool dirty = true;
@@ -48,6 +49,9 @@ class RecalcState {
   std::vector<Link> links;
   std::vector<Item> items;
   std::vector<Group> groups;
+
+ private:
+  bool LinkChanged(std::vector<std::uint64_t>& visited) const;
 };
 
 }  // namespace gustline::wb
