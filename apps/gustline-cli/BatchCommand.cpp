@@ -9,6 +9,7 @@
 
 #include "CliCommand.h"
 #include "CsvRows.h"
+#include "NoReportReason.h"
 #include "ProjectOptions.h"
 #include "core/Prompt.h"
 #include "core/workbook/io/AtomicFile.h"
@@ -97,10 +98,13 @@ CaseOutcome RunCase(report::HeadlessReport& program, const wb::Workbook& project
     inputs.sets.emplace_back(header[i], i < row.size() ? row[i] : std::string());
   if (ApplySets(program.Project(), inputs, prompt)) {
     outcome.templateName = program.CreateReport();
+    if (outcome.templateName.empty())
+      missing.push_back("no report: " + NoReportReason(program.Project()));
     for (const std::string& name : options.results) {
       auto value = outcome.templateName.empty() ? std::nullopt : NamedValue(program.Report(), name);
       if (!value) value = NamedValue(program.Project(), name);
-      if (!value) missing.push_back("no result " + name + " in the report or the project");
+      if (!value && !outcome.templateName.empty())
+        missing.push_back("no result " + name + " in the report or the project");
       outcome.results.push_back(std::move(value));
     }
   } else {

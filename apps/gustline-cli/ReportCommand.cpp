@@ -4,10 +4,10 @@
 #include <iostream>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
 #include "CliCommand.h"
+#include "NoReportReason.h"
 #include "ProjectOptions.h"
 #include "ReportWriters.h"
 #include "core/Prompt.h"
@@ -16,7 +16,6 @@
 #include "core/workbook/value/FacilityError.h"
 #include "report/HeadlessReport.h"
 #include "report/ReportJson.h"
-#include "report/ReportSelection.h"
 
 namespace gustline::cli {
 namespace {
@@ -35,20 +34,6 @@ int WriteJson(const ReportOutput& output, const std::string& path) {
 
 const bool jsonRegistered = RegisterReportWriter(
     "--json", "--json FILE   the report's cells as JSON ('-': standard output)", WriteJson);
-
-// Why the generator left the report empty, in the words of the decision tables; the
-// messages the build itself gave are already on standard error.
-std::string NoReportReason(wb::Workbook& project) {
-  const report::SelectionInputs in = report::ReadSelectionInputs(project);
-  const report::Selection selection = report::SelectTemplate(in);
-  if (std::holds_alternative<report::RangeRefusal>(selection))
-    return "the project failed the range check above";
-  if (const auto* chosen = std::get_if<report::ChosenTemplate>(&selection))
-    return "the template " + chosen->id.name + " could not be built";
-  return "no template fits System=" + std::to_string(in.system) +
-         " Structure=" + std::to_string(in.structure) + " Figure=" + std::to_string(in.figure) +
-         " Table=" + std::to_string(in.table) + " GustType=" + std::to_string(in.gustType);
-}
 
 void PrintWriterUsages() {
   std::cerr << "output options:\n";

@@ -118,6 +118,11 @@ TEST_F(CliRunsTest, BatchRowsAreIndependentReports) {
   for (int field = 0; field < 4; ++field) qh.erase(0, qh.find(',') + 1);
   qh.erase(qh.find(','));
   EXPECT_NE(Output().find("\"results\": {\"qh\": " + qh + "}"), std::string::npos) << Output();
+
+  std::ofstream(At("none.csv")) << "System\n3\n";
+  EXPECT_EQ(Run("batch --in " + At("none.csv") + " --out - --result qh"), 1);
+  EXPECT_NE(Output().find("3,,,no report: no template fits System=3"), std::string::npos)
+      << Output();
 }
 
 TEST_F(CliRunsTest, ADeviceTargetStaysADevice) {
