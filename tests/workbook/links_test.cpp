@@ -79,6 +79,22 @@ TEST(LinksTest, ChangeMarksOnlyTheBooksLinkedToIt) {
   EXPECT_EQ(far.CellValue(1, 1), N(51));
 }
 
+// A book that takes another's content keeps the name slots that links were bound to since.
+TEST(LinksTest, CopiedContentKeepsTheSlotsThatLinksAreBoundTo) {
+  Workbook source("CopySource");
+  source.SetDefinedName("First", "Sheet1!$A$1");
+  Workbook book("CopyTarget");
+  book.CopyContentOf(source);
+  Workbook report("CopyReport");
+  report.SetCellFormula(1, 1, "[CopyTarget]Sheet1!Late");
+  book.CopyContentOf(source);
+  book.SetDefinedName("Other", "Sheet1!$A$2");
+  book.SetDefinedName("Late", "Sheet1!$A$3");
+  book.SetCellNumber(2, 1, 7);
+  book.SetCellNumber(3, 1, 9);
+  EXPECT_EQ(report.CellValue(1, 1), N(9));
+}
+
 TEST(LinksTest, UnboundLinkKeepsItsCachedValueUntilReentered) {
   Workbook report("Report");
   report.SetCellFormula(1, 1, "[LateBook]Sheet1!Height");

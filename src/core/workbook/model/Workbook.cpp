@@ -130,7 +130,11 @@ void Workbook::CopyContentOf(const Workbook& other) {
   nextSheetId_ = other.nextSheetId_;
   activeSheet_ = other.activeSheet_;
   styles_ = other.styles_;
-  names_ = other.names_;
+  // The slots of names this book made since, undefined: formulas may be bound to them.
+  DefinedNames names = other.names_;
+  for (int slot = names.SlotCount(); slot < names_.SlotCount(); ++slot)
+    if (names.Find(names_.At(slot).name) < 0) names.Slot(names_.At(slot).name);
+  names_ = std::move(names);
   autoRecalc_ = other.autoRecalc_;
   iterationOn_ = other.iterationOn_;
   maxIterations_ = other.maxIterations_;

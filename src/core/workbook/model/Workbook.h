@@ -167,7 +167,8 @@ class Workbook {
   void ClearAll();  // one empty sheet, "Sheet1"; no names
   // Replaces the title, sheets, names, styles and calculation settings by a copy of another
   // book's; the book keeps its id and name. The formulas, which neither book changes, are
-  // shared; they stay bound to the sheet ids and name slots that come with them.
+  // shared; they stay bound to the sheet ids and name slots that come with them. Slots of
+  // this book past the other's stay, undefined, for the formulas bound to them.
   void CopyContentOf(const Workbook& other);
   // Replaces the whole book by the file, all but its name; returns the type read. On failure
   // the book is as it was.
